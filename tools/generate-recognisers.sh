@@ -1,0 +1,37 @@
+#!/bin/sh
+# Generates lexer, parser and listeners from grammar/Cypher.g4 with the ANTLR 4.10 tool.
+#
+#   tools/generate-recognisers.sh            rewrite grammar/generated/
+#   tools/generate-recognisers.sh --check    fail if grammar/generated/ is not what the tool writes
+set -eu
+
+root=$(cd "$(dirname "$0")/.." && pwd)
+jar=$root/build/antlr-4.10-complete.jar
+generated=$root/grammar/generated
+
+fail() {
+    echo "generate-recognisers: $1" >&2
+    exit 1
+}
+
+command -v java >/dev/null || fail "java is missing; tools/install-packages.sh grammar installs it."
+[ -f "$jar" ] || fail "$jar is missing; tools/fetch-antlr-tool.sh fetches it."
+
+work=$(mktemp -d "$root/build/generated.XXXXXX")
+trap 'rm -rf "$work"' EXIT
+
+# The tool writes the grammar's path into the sources, so it runs beside the grammar.
+cd "$root/grammar"
+java -jar "$jar" -Dlanguage=Cpp -package vorn -listener -no-visitor -encoding UTF-8 -Werror \
+    -Xexact-output-dir -o "$work" Cypher.g4 || fail "the tool rejected grammar/Cypher.g4."
+# Only the C++ sources are kept: the other files serve the tool's own IDE plug-ins.
+rm "$work"/*.interp "$work"/*.tokens
+
+if [ "${1-}" = --check ]; then
+    diff -r "$work" "$generated" >/dev/null ||
+        fail "grammar/generated/ differs from what the tool writes; run make grammar."
+else
+    mkdir -p "$generated"
+    rm -f "$generated"/*
+    cp "$work"/* "$generated"
+fi

@@ -1,0 +1,50 @@
+#!/bin/sh
+# Installs the Debian packages that a task needs and that are missing.
+#
+#   tools/install-packages.sh build|grammar|lint
+#
+# Does nothing, and needs neither network nor root, when all of them are there.
+set -eu
+
+fail() {
+    echo "install-packages: $1" >&2
+    exit 1
+}
+
+case "${1-}" in
+    build) packages="g++ cmake ninja-build python3 xz-utils libutfcpp-dev
+                     libcli11-dev nlohmann-json3-dev libutf8proc-dev
+                     libgtest-dev librapidcheck-dev" ;;
+    grammar) packages="python3 unicode-data maven default-jre-headless" ;;
+    lint) packages="clang-format clang-tidy" ;;
+    *) fail "say which packages: build, grammar or lint." ;;
+esac
+
+command -v dpkg-query >/dev/null ||
+    fail "this is no Debian system; install the counterparts of these packages by hand:" $packages
+
+missing=""
+for package in $packages; do
+    state=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) || state=""
+    [ "$state" = installed ] || missing="$missing $package"
+done
+[ -n "$missing" ] || exit 0
+
+as_root=""
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || fail "these packages are missing and installing them needs root or sudo:$missing"
+    as_root="sudo"
+fi
+
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+
+run_apt() {
+    $as_root env DEBIAN_FRONTEND=noninteractive apt-get -q "$@" >"$log" 2>&1 </dev/null ||
+        fail "apt-get $1 failed for$missing: $(grep -m 1 '^E:' "$log" || tail -n 1 "$log")"
+}
+
+echo "Installing$missing"
+run_apt update
+# shellcheck disable=SC2086 # one argument for each package
+run_apt install --yes --no-install-recommends $missing
