@@ -1,0 +1,161 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <set>
+#include <string>
+#include <tuple>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+/// @file
+/// VornLib answers three questions about openCypher text without running it:
+///
+/// - which columns does a query return, and what does each hold?
+///   (vorn::GetOutputNamesAndTypes)
+/// - which variables does a property filter use, and what does it read from each?
+///   (vorn::GetVariableUsagesInPropertyFilterOCExpression)
+/// - what does a property filter read like after some of its variables are renamed?
+///   (vorn::ReplaceVariableNamesInPropertyFilterOCExpression)
+///
+/// Text is UTF-16 on every platform, and every size of text below counts UTF-16 code units. Each
+/// call stands alone: nothing is kept between calls, nothing has to be set up or shut down, and any
+/// number of threads may call at the same time. What a call returns belongs to the caller.
+
+#if defined(_WIN32)
+#if defined(VornLib_EXPORTS)
+#define VORN_API __declspec(dllexport)
+#else
+#define VORN_API __declspec(dllimport)
+#endif
+#else
+#define VORN_API __attribute__((visibility("default")))
+#endif
+
+namespace vorn {
+
+/// One UTF-16 code unit: `wchar_t` on Windows, where it has 16 bits, and `char16_t` elsewhere.
+#if defined(_WIN32)
+using WideChar = wchar_t;
+#else
+using WideChar = char16_t;
+#endif
+
+/// UTF-16 text. Text with an unpaired surrogate is not well formed: every function below fails on
+/// it in its own way, by a status or by an exception.
+using WideString = std::basic_string<WideChar>;
+
+/// What a result column holds.
+///
+/// The numbers are part of the contract: hosts may store them. 1, 2, 3, 7 and 8 are reserved and
+/// never returned.
+enum class CypherType : std::int32_t {
+  /// Anything but a bare variable of a known kind: a computed expression, a property, a literal, a
+  /// function call, a parameter, a variable bound by `UNWIND`, or kinds that conflict in a `UNION`.
+  Unknown = 0,
+  /// A variable bound in a node pattern: `n` of `MATCH (n)`.
+  Node = 4,
+  /// A variable bound in a relationship pattern, of variable length or not: `r` of `()-[r]->()`.
+  Relationship = 5,
+  /// A path variable: `p` of `MATCH p = ()-->()`.
+  Path = 6,
+  /// A node in one branch of a `UNION` and a relationship in another.
+  NodeOrRelationship = 9,
+};
+
+/// Finds the columns that an openCypher query returns, in order.
+///
+///     std::vector<std::pair<vorn::WideString, vorn::CypherType>> columns;
+///     if (vorn::GetOutputNamesAndTypes(u"MATCH (n) RETURN n, n.age AS age", columns) == 0) {
+///       // columns is {{u"n", CypherType::Node}, {u"age", CypherType::Unknown}}
+///     }
+///
+/// A column is named by its alias or else by the text of its expression, in both cases without the
+/// back quotes around quoted names. The columns are those of the last `RETURN` or `WITH` in the
+/// text; a query without any, such as a lone `CREATE`, has none.
+///
+/// @param query    The whole text of one query. It is only read.
+/// @param columns  On success replaced by the answer, whatever it held; on failure left as it was.
+/// @return 0 when the query was analysed, even if it has no columns; 1 when it was not, because the
+///         text is no openCypher query, is not well-formed UTF-16, or memory ran out.
+/// @throws Nothing.
+/// @note Thread-safe, as long as no other thread uses `columns` meanwhile.
+VORN_API std::int32_t GetOutputNamesAndTypes(
+    const WideString& query, std::vector<std::pair<WideString, CypherType>>& columns) noexcept;
+
+/// One way in which a property filter uses a variable: what it reads from it, and which labels it
+/// tests there. All names are back-quoted, whether the text writes them so or not.
+struct VariableAccess {
+  /// The property keys, in reading order: `n.address.city` gives `` `address` `` and `` `city` ``.
+  /// Empty when the variable is used without a property.
+  std::vector<WideString> propertyPath;
+  /// The labels tested after the path: `n:Person` gives `` `Person` ``. Empty when there is no
+  /// test.
+  std::set<WideString> labels;
+
+  /// Orders by `propertyPath`, then by `labels`; names compare by UTF-16 code units.
+  friend bool operator<(const VariableAccess& left, const VariableAccess& right) {
+    return std::tie(left.propertyPath, left.labels) < std::tie(right.propertyPath, right.labels);
+  }
+  friend bool operator==(const VariableAccess& left, const VariableAccess& right) {
+    return left.propertyPath == right.propertyPath && left.labels == right.labels;
+  }
+};
+
+/// How a property filter uses one variable.
+struct VariableUsage {
+  /// The forms in which the text writes the variable's name: `n`, `` `n` `` or both.
+  std::set<WideString> writtenForms;
+  /// The distinct ways in which the variable is used. A bare use, a subscript included (`n`,
+  /// `n[0]`), is an access with neither path nor labels.
+  std::set<VariableAccess> accesses;
+};
+
+/// Finds the variables that a property filter (one openCypher expression) uses.
+///
+///     auto usages = vorn::GetVariableUsagesInPropertyFilterOCExpression(u"n.age > 30 AND
+///     n:Person");
+///     // usages[u"`n`"].accesses holds {path (), labels (`Person`)} and {path (`age`), labels ()}
+///
+/// The expression must begin with the first character of the text; text after a complete expression
+/// is left unread.
+///
+/// @param expression  The text of the filter. It is only read.
+/// @return The variables by name, back-quoted, in ascending order of UTF-16 code units.
+/// @throws std::logic_error  The filter holds a list comprehension, a pattern comprehension, a
+///         quantifier (`ALL`, `ANY`, `NONE`, `SINGLE`), a pattern predicate or an existential
+///         subquery. The exception is of this very type, not of one derived from it; `what()` is
+///         UTF-8 and names the first such element.
+/// @throws std::exception  Any other failure, as a type derived from it. For text that is no
+///         openCypher expression `what()` is "line L:C " and a description in UTF-8, with L the
+///         line, counted from 1, and C the place in the line in code points, counted from 0.
+/// @note Thread-safe.
+VORN_API std::map<WideString, VariableUsage> GetVariableUsagesInPropertyFilterOCExpression(
+    const WideString& expression);
+
+/// Renames variables in a property filter and leaves every other character as it is written.
+///
+///     vorn::ReplaceVariableNamesInPropertyFilterOCExpression(u"n.name = 'n'", {{u"n", u"m"}});
+///     // gives u"`m`.name = 'n'"
+///
+/// Every occurrence of a variable is renamed, also inside constructs that
+/// GetVariableUsagesInPropertyFilterOCExpression rejects: this function does not validate. Property
+/// keys, labels, function names and parameters are never renamed. Text after a complete expression
+/// is dropped.
+///
+/// @param expression  The text of the filter. It is only read.
+/// @param renames     New names by old names. An old name matches a variable whether either is
+/// written
+///         with back quotes or without. A new name that begins with a back quote is used as it is,
+///         unchecked; any other one is put between back quotes, those inside it doubled. If two old
+///         names mean the same variable, the one that comes later in the map's own order wins.
+/// @return The text of the expression with the names replaced.
+/// @throws std::exception  As for GetVariableUsagesInPropertyFilterOCExpression, but for the
+/// rejected
+///         elements.
+/// @note Thread-safe.
+VORN_API WideString ReplaceVariableNamesInPropertyFilterOCExpression(
+    const WideString& expression, const std::unordered_map<WideString, WideString>& renames);
+
+}  // namespace vorn

@@ -1,0 +1,37 @@
+#include "InterrogatorBase.h"
+
+#include <ANTLRInputStream.h>
+#include <CommonTokenStream.h>
+
+#include <string_view>
+
+#include "CypherLexer.h"
+#include "CypherParser.h"
+#include "ThrowingErrorListener.h"
+#include "platform/StringUtf8ImplDetail.h"
+
+namespace vorn {
+
+namespace {
+
+// The runtime installs a listener that prints to the console; nothing may reach it.
+void makeErrorsFatal(antlr4::Recognizer& recognizer) {
+  recognizer.removeErrorListeners();
+  recognizer.addErrorListener(&ThrowingErrorListener::instance());
+}
+
+}  // namespace
+
+InterrogatorBase::InterrogatorBase(const WideString& text)
+    : utf8Text(StringUtf8ImplDetail::StringWideCharToUtf8Impl(text)),
+      inputStream(std::make_unique<antlr4::ANTLRInputStream>(std::string_view(utf8Text))),
+      lexer(std::make_unique<CypherLexer>(inputStream.get())) {
+  makeErrorsFatal(*lexer);
+  tokenStream = std::make_unique<antlr4::CommonTokenStream>(lexer.get());
+  parser = std::make_unique<CypherParser>(tokenStream.get());
+  makeErrorsFatal(*parser);
+}
+
+InterrogatorBase::~InterrogatorBase() = default;
+
+}  // namespace vorn

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "vorn/vorn.h"
+
+namespace antlr4 {
+class ANTLRInputStream;
+class CommonTokenStream;
+}  // namespace antlr4
+
+namespace vorn {
+
+class CypherLexer;
+class CypherParser;
+
+/// Owns the parse pipeline over one text and makes its first lexical or syntax error fatal. The
+/// derived classes choose the start rule and compute answers from the tree.
+class InterrogatorBase {
+ public:
+  InterrogatorBase(const InterrogatorBase&) = delete;
+  InterrogatorBase& operator=(const InterrogatorBase&) = delete;
+  InterrogatorBase(InterrogatorBase&&) = delete;
+  InterrogatorBase& operator=(InterrogatorBase&&) = delete;
+  virtual ~InterrogatorBase();
+
+ protected:
+  explicit InterrogatorBase(const WideString& text);
+
+  // Each refers to the one before it, so the order of construction and destruction matters.
+  std::string utf8Text;
+  std::unique_ptr<antlr4::ANTLRInputStream> inputStream;
+  std::unique_ptr<CypherLexer> lexer;
+  std::unique_ptr<antlr4::CommonTokenStream> tokenStream;
+  std::unique_ptr<CypherParser> parser;
+};
+
+}  // namespace vorn
