@@ -1,0 +1,54 @@
+"""The library exports its documented functions and nothing else, and can be unloaded.
+
+    exported_symbols_test.py NM LIBRARY
+"""
+
+import ctypes
+import re
+import subprocess
+import sys
+import unittest
+
+NM, LIBRARY = sys.argv[1:3]
+
+EXPORTED = {
+    "vorn::GetOutputNamesAndTypes",
+    "vorn::GetVariableUsagesInPropertyFilterOCExpression",
+    "vorn::ReplaceVariableNamesInPropertyFilterOCExpression",
+}
+
+
+def dynamic_symbols(*options: str) -> list[tuple[str, str]]:
+    """Type letter and demangled name of each symbol in the dynamic symbol table."""
+    output = subprocess.run(
+        [NM, "--dynamic", "--demangle", *options, LIBRARY], check=True, capture_output=True, text=True
+    ).stdout
+    return re.findall(r"^[0-9a-f ]* (\w) (.*)$", output, re.MULTILINE)
+
+
+class ExportedSymbols(unittest.TestCase):
+    def test_are_the_documented_functions(self) -> None:
+        names = [name.partition("(")[0] for _, name in dynamic_symbols("--defined-only")]
+        self.assertEqual(sorted(names), sorted(EXPORTED))
+
+    def test_are_ordinary_code(self) -> None:
+        self.assertEqual({kind for kind, _ in dynamic_symbols("--defined-only")}, {"T"})
+
+    def test_of_the_antlr_runtime_are_not_asked_for_elsewhere(self) -> None:
+        self.assertEqual([name for _, name in dynamic_symbols() if "antlr" in name], [])
+
+    def test_let_the_library_be_unloaded(self) -> None:
+        def is_loaded() -> bool:
+            with open("/proc/self/maps", encoding="ascii") as maps:
+                return "libVornLib" in maps.read()
+
+        library = ctypes.CDLL(LIBRARY)
+        self.assertTrue(is_loaded())
+        dlclose = ctypes.CDLL(None).dlclose
+        dlclose.argtypes = [ctypes.c_void_p]
+        self.assertEqual(dlclose(library._handle), 0)
+        self.assertFalse(is_loaded())
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
