@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 #include "CypherBaseListener.h"
 #include "SourceText.h"
@@ -61,8 +62,7 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
    public:
     // Names bound in an earlier branch stay visible in the later ones.
     void enterOC_Union(CypherParser::OC_UnionContext* /*ctx*/) override {
-      previousBranches.push_back(std::move(columns));
-      columns.clear();
+      previousBranches.push_back(std::exchange(columns, {}));
     }
 
     void enterOC_Unwind(CypherParser::OC_UnwindContext* ctx) override {

@@ -15,6 +15,7 @@ TEST(CypherInterrogator, ComputesTheColumnsOnce) {
   columns.front().second = CypherType::Path;
   EXPECT_EQ(interrogator.getResultColumnNamesAndTypes().front().second, CypherType::Path);
   EXPECT_EQ(&interrogator.getResultColumnNamesAndTypes(), &columns);
+  EXPECT_EQ(columns.size(), 1U);
 }
 
 TEST(CypherInterrogator, ComputesAnEmptyAnswerAnewWithTheSameOutcome) {
