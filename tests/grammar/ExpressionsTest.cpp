@@ -1,0 +1,211 @@
+#include <gtest/gtest.h>
+
+#include "support/Accepts.h"
+#include "support/Tree.h"
+
+using vorn::CypherParser;
+using Texts = std::vector<std::string>;
+
+namespace {
+
+TEST(Comparisons, ChainInOneContext) {
+  const Tree tree = Tree::ofExpression("1 < 2 <= 3");
+  const auto comparisons = tree.all<CypherParser::OC_ComparisonExpressionContext>();
+  ASSERT_EQ(comparisons.size(), 1U);
+  EXPECT_EQ(comparisons.front()->oC_PartialComparisonExpression().size(), 2U);
+  EXPECT_TRUE(acceptsExpression("1=2<>3<4>5<=6>=7"));
+}
+
+TEST(Predicates, FollowAnOperandInAnyOrder) {
+  for (const char* text : {"n STARTS WITH 'a' IS NOT NULL", "n IS NOT NULL STARTS WITH 'a'"}) {
+    const Tree tree = Tree::ofExpression(text);
+    const auto all = tree.all<CypherParser::OC_StringListNullPredicateExpressionContext>();
+    ASSERT_EQ(all.size(), 1U) << text;
+    EXPECT_EQ(all.front()->oC_StringPredicateExpression().size(), 1U) << text;
+    EXPECT_EQ(all.front()->oC_NullPredicateExpression().size(), 1U) << text;
+  }
+  EXPECT_TRUE(acceptsExpression("n IN [1] ENDS WITH 'a' CONTAINS 'b' IS NULL"));
+}
+
+TEST(Predicates, DemandWhiteSpaceBeforeTheirKeyword) {
+  EXPECT_FALSE(acceptsExpression("(n)IN [1]"));
+  EXPECT_FALSE(acceptsExpression("(n)IS NULL"));
+  EXPECT_FALSE(acceptsExpression("(n)STARTS WITH 'a'"));
+  EXPECT_FALSE(acceptsExpression("(n)CONTAINS 'a'"));
+  EXPECT_TRUE(acceptsExpression("(n) IN[1]"));
+  EXPECT_TRUE(acceptsExpression("(n) STARTS WITH'a'"));
+  EXPECT_TRUE(acceptsExpression("(n) CONTAINS'a'"));
+}
+
+TEST(Predicates, HaveNoRegularExpressions) { EXPECT_FALSE(acceptsExpression("n =~ 'a'")); }
+
+TEST(BooleanOperators, DemandWhiteSpaceEvenNextToParentheses) {
+  for (const char* word : {"OR", "XOR", "AND"}) {
+    const std::string operation = word;
+    EXPECT_FALSE(acceptsExpression("(a)" + operation + "(b)"));
+    EXPECT_FALSE(acceptsExpression("(a) " + operation + "(b)"));
+    EXPECT_FALSE(acceptsExpression("(a)" + operation + " (b)"));
+    EXPECT_TRUE(acceptsExpression("(a) " + operation + " (b)"));
+  }
+}
+
+TEST(BooleanOperators, BindOrLooserThanXorLooserThanAndLooserThanNot) {
+  const Tree tree = Tree::ofExpression("g OR h XOR NOT i AND j");
+  EXPECT_EQ(tree.texts<CypherParser::OC_XorExpressionContext>(), (Texts{"g", "h XOR NOT i AND j"}));
+  EXPECT_EQ(tree.texts<CypherParser::OC_AndExpressionContext>(), (Texts{"g", "h", "NOT i AND j"}));
+  EXPECT_EQ(tree.texts<CypherParser::OC_NotExpressionContext>(), (Texts{"g", "h", "NOT i", "j"}));
+}
+
+TEST(BooleanOperators, MayNegateManyTimes) {
+  EXPECT_TRUE(acceptsExpression("NOT NOT(a)"));
+  EXPECT_TRUE(acceptsExpression("NOT(a)"));
+}
+
+TEST(Arithmetic, IsAFlatListOfOperands) {
+  const Tree tree = Tree::ofExpression("1 + 2 - 3+4");
+  EXPECT_EQ(tree.count<CypherParser::OC_AddOrSubtractExpressionContext>(), 1U);
+  EXPECT_EQ(tree.texts<CypherParser::OC_MultiplyDivideModuloExpressionContext>(),
+            (Texts{"1", "2", "3", "4"}));
+}
+
+TEST(Arithmetic, BindsPowersTighterThanProductsTighterThanSums) {
+  const Tree tree = Tree::ofExpression("1+2*3^4%5");
+  EXPECT_EQ(tree.texts<CypherParser::OC_MultiplyDivideModuloExpressionContext>(),
+            (Texts{"1", "2*3^4%5"}));
+  EXPECT_EQ(tree.texts<CypherParser::OC_PowerOfExpressionContext>(), (Texts{"1", "2", "3^4", "5"}));
+}
+
+TEST(Signs, BindTighterThanPowers) {
+  EXPECT_EQ(
+      Tree::ofExpression("-2^3").texts<CypherParser::OC_UnaryAddOrSubtractExpressionContext>(),
+      (Texts{"-2", "3"}));
+}
+
+TEST(Signs, StandAloneBeforeAnOperand) {
+  EXPECT_FALSE(acceptsExpression("--1"));
+  EXPECT_FALSE(acceptsExpression("- -1"));
+  EXPECT_FALSE(acceptsExpression("+-1"));
+  EXPECT_TRUE(acceptsExpression("-(-1)"));
+  EXPECT_TRUE(acceptsExpression("1 - -1"));
+  EXPECT_TRUE(acceptsExpression("- 1"));
+}
+
+TEST(Brackets, AdmitNoWhiteSpaceJustInside) {
+  for (const char* text : {"xs[0]", "xs[1..2]", "xs[1..]", "xs[..2]", "xs[..]", "xs [0] [1]"}) {
+    EXPECT_TRUE(acceptsExpression(text)) << text;
+  }
+  for (const char* text : {"xs[ 0]", "xs[0 ]", "xs[]", "xs[0 .. 1]"}) {
+    EXPECT_FALSE(acceptsExpression(text)) << text;
+  }
+}
+
+TEST(Brackets, AdmitWhiteSpaceInListsAndComprehensions) {
+  for (const char* text : {"[ 1 , 2 ]", "[]", "[ ]", "[ x IN xs | x ]", "[ (a)--(b) | a ]"}) {
+    EXPECT_TRUE(acceptsExpression(text)) << text;
+  }
+}
+
+TEST(Properties, ComeBeforeLabelsAndBehindAnAtom) {
+  for (const char* text : {"n.a.b:L:M", "n . a : L", "f(x).a", "$p.a", "{k: 1}.k", "n:L"}) {
+    EXPECT_TRUE(acceptsExpression(text)) << text;
+  }
+  EXPECT_FALSE(acceptsExpression("n:L.a"));
+  EXPECT_FALSE(acceptsExpression("xs[0].a"));
+  EXPECT_FALSE(acceptsExpression("n."));
+}
+
+TEST(Atoms, OfCountAndAStarAreNoFunction) {
+  const Tree star = Tree::ofExpression("COUNT ( * )");
+  EXPECT_EQ(star.count<CypherParser::OC_FunctionInvocationContext>(), 0U);
+  EXPECT_NE(star.all<CypherParser::OC_AtomContext>().front()->COUNT(), nullptr);
+  const Tree call = Tree::ofExpression("COUNT(n)");
+  EXPECT_EQ(call.texts<CypherParser::OC_FunctionNameContext>(), Texts{"COUNT"});
+  EXPECT_TRUE(acceptsExpression("count( DISTINCT n )"));
+}
+
+TEST(Atoms, OfExistsWantBraces) {
+  EXPECT_FALSE(acceptsExpression("EXISTS(n.x)"));
+  for (const char* text : {"EXISTS { (n)-->(m) }", "EXISTS{(n)}", "exists { (n)--() WHERE n.x }",
+                           "EXISTS { MATCH (n) RETURN n }", "EXISTS { RETURN 1 UNION RETURN 2 }"}) {
+    EXPECT_EQ(Tree::ofExpression(text).count<CypherParser::OC_ExistentialSubqueryContext>(), 1U)
+        << text;
+    EXPECT_TRUE(acceptsExpression(text)) << text;
+  }
+  EXPECT_FALSE(acceptsExpression("EXISTS { }"));
+}
+
+template <typename Context>
+bool isTakenFor(const std::string& text) {
+  const Tree tree = Tree::ofExpression(text);
+  auto* first = tree.all<CypherParser::OC_AtomContext>().front()->children.front();
+  return dynamic_cast<Context*>(first) != nullptr && first->getText() == text;
+}
+
+TEST(Atoms, AreTakenForTheEarlierAlternativeWhereATextFitsTwo) {
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_LiteralContext>("[x IN xs]"));
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_LiteralContext>("[(a)--(b)]"));
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_ListComprehensionContext>("[x IN xs | x]"));
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_ListComprehensionContext>("[x IN xs WHERE x]"));
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_PatternComprehensionContext>("[(a)--(b) | a]"));
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_QuantifierContext>("any(x IN xs)"));
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_FunctionInvocationContext>("any(x)"));
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_PatternPredicateContext>("(a)--(b)"));
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_ParenthesizedExpressionContext>("(a)"));
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_LiteralContext>("{}"));
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_VariableContext>("count"));
+}
+
+TEST(Quantifiers, HaveFourForms) {
+  for (const char* word : {"ALL", "ANY", "NONE", "SINGLE"}) {
+    EXPECT_TRUE(acceptsExpression(std::string(word) + " ( x IN xs WHERE x > 1 )")) << word;
+  }
+  EXPECT_TRUE(acceptsExpression("any(x)"));
+  EXPECT_FALSE(acceptsExpression("all(x)"));
+  EXPECT_FALSE(acceptsExpression("ALL(x IN[1])"));
+}
+
+TEST(Case, TakesATestOrNot) {
+  EXPECT_TRUE(acceptsExpression("CASE WHEN 1 THEN 2 END"));
+  EXPECT_TRUE(acceptsExpression("CASE n.x WHEN 1 THEN 2 WHEN 3 THEN 4 ELSE 5 END"));
+  EXPECT_TRUE(acceptsExpression("CASE(n)WHEN(1)THEN(2)ELSE(3)END"));
+  EXPECT_FALSE(acceptsExpression("CASE n ELSE 1 END"));
+  EXPECT_FALSE(acceptsExpression("CASE WHEN 1 END"));
+}
+
+TEST(PatternComprehensions, NeedARelationshipAndAProjection) {
+  EXPECT_TRUE(acceptsExpression("[p = (a)--(b) WHERE a.x | p]"));
+  EXPECT_FALSE(acceptsExpression("[(a) | a]"));
+}
+
+TEST(Functions, HaveNamesWithoutWhiteSpaceAroundDots) {
+  EXPECT_TRUE(acceptsExpression("a.b.c(1)"));
+  EXPECT_FALSE(acceptsExpression("a. b(1)"));
+  EXPECT_FALSE(acceptsExpression("a .b(1)"));
+  EXPECT_TRUE(acceptsExpression("f ( DISTINCT 1 , 2 )"));
+  EXPECT_FALSE(acceptsExpression("f(1,)"));
+}
+
+TEST(Parameters, FollowTheDollarDirectly) {
+  for (const char* text : {"$x", "$1", "$`a b`", "$count", "$a"}) {
+    EXPECT_TRUE(acceptsExpression(text)) << text;
+  }
+  EXPECT_FALSE(acceptsExpression("$ x"));
+  EXPECT_FALSE(acceptsExpression("$match"));
+  EXPECT_FALSE(acceptsExpression("$0x1"));
+}
+
+TEST(Literals, AreOfManyKinds) {
+  for (const char* text : {"true", "FALSE", "Null", "1", "0x1f", "0o17", "1.5", "1e3", "'s'",
+                           "\"s\"", "[1, [2]]", "{a: 1, `b c`: {RETURN: 2}}"}) {
+    EXPECT_TRUE(acceptsExpression(text)) << text;
+  }
+  EXPECT_FALSE(acceptsExpression("{1: 2}"));
+  EXPECT_FALSE(acceptsExpression("017"));
+}
+
+TEST(StartRule, OfAnExpressionLeavesTheRestOfTheText) {
+  EXPECT_EQ(Tree::ofExpression("n.a = 1 RETURN n").texts<CypherParser::OC_ExpressionContext>(),
+            Texts{"n.a = 1"});
+}
+
+}  // namespace

@@ -1,0 +1,355 @@
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+#include <utf8.h>
+
+#include <algorithm>
+#include <cctype>
+#include <iterator>
+
+#include "support/Pipeline.h"
+
+namespace {
+
+using Lexer = vorn::CypherLexer;
+using Types = std::vector<std::size_t>;
+
+Types types(std::string_view text) { return Pipeline(text).types(); }
+
+std::size_t only(std::string_view text) {
+  const Types all = types(text);
+  return all.size() == 1 ? all.front() : 0;
+}
+
+bool isRefused(std::string_view text) {
+  try {
+    types(text);
+    return false;
+  } catch (const antlr4::ParseCancellationException&) {
+    return true;
+  }
+}
+
+std::string utf8Of(char32_t codePoint) {
+  std::string text;
+  utf8::append(codePoint, std::back_inserter(text));
+  return text;
+}
+
+TEST(Keywords, MatchInAnyCaseAndBeatNames) {
+  for (const char* text : {"match", "Match", "MATCH", "mAtCh"}) {
+    EXPECT_EQ(only(text), Lexer::MATCH);
+  }
+  EXPECT_EQ(only("skip"), Lexer::L_SKIP);
+  EXPECT_EQ(only("L_SKIP"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(only("allShortestPaths"), Lexer::ALLSHORTESTPATHS);
+  EXPECT_EQ(types("shortest path"),
+            (Types{Lexer::UnescapedSymbolicName, Lexer::SP, Lexer::UnescapedSymbolicName}));
+}
+
+TEST(Keywords, LoseToALongerName) {
+  EXPECT_EQ(only("matches"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(only("asc1"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(only("_in"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(only("in$"), Lexer::UnescapedSymbolicName);
+}
+
+TEST(Keywords, AreEachTheirOwnToken) {
+  const Pipeline pipeline("");
+  for (std::size_t type = Lexer::UNION; type <= Lexer::EXTRACT; ++type) {
+    if (type > Lexer::FALSE && type < Lexer::CONSTRAINT) {
+      continue;
+    }
+    const std::string symbol(pipeline.lexer.getVocabulary().getSymbolicName(type));
+    std::string word = type == Lexer::L_SKIP ? "SKIP" : symbol;
+    EXPECT_EQ(only(word), type) << word;
+    std::transform(word.begin(), word.end(), word.begin(),
+                   [](char c) { return static_cast<char>(std::tolower(c)); });
+    EXPECT_EQ(only(word), type) << word;
+    EXPECT_EQ(only(word + "x"), Lexer::UnescapedSymbolicName) << word;
+  }
+}
+
+TEST(Keywords, TakeAsciiLettersOnly) {
+  EXPECT_EQ(only("LIM\u0130T"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(only("\u017Fet"), Lexer::UnescapedSymbolicName);
+}
+
+TEST(Names, OfOneLetterFromAToFAreHexLetters) {
+  for (const char letter : std::string("ABCDEFabcdef")) {
+    EXPECT_EQ(only(std::string(1, letter)), Lexer::HexLetter);
+  }
+  EXPECT_EQ(only("g"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(only("G"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(only("ab"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(only("a1"), Lexer::UnescapedSymbolicName);
+}
+
+TEST(Names, MayBeginWithAnUnderscoreAndHoldButNotBeginWithACurrencySign) {
+  EXPECT_EQ(only("_x"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(only("_"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(types("$x"), (Types{Lexer::T__25, Lexer::UnescapedSymbolicName}));
+  EXPECT_EQ(only("x$"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(only("x€"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(types("€x"), (Types{Lexer::IdentifierPart, Lexer::UnescapedSymbolicName}));
+}
+
+TEST(Names, BetweenBackQuotesAreOneTokenWithAllBackQuotes) {
+  Pipeline pipeline("`a``b`");
+  EXPECT_EQ(pipeline.types(), Types{Lexer::EscapedSymbolicName});
+  EXPECT_EQ(pipeline.tokens.get(0)->getText(), "`a``b`");
+  EXPECT_EQ(only("``"), Lexer::EscapedSymbolicName);
+  EXPECT_EQ(only("`\n'\\`"), Lexer::EscapedSymbolicName);
+  EXPECT_TRUE(isRefused("`a"));
+  EXPECT_EQ(only("`a```"), Lexer::EscapedSymbolicName);
+  EXPECT_TRUE(isRefused("`a``"));
+}
+
+struct SetSize {
+  std::size_t ranges;
+  std::size_t codePoints;
+};
+
+template <typename Test>
+SetSize sizeOfSet(const Test& isMember) {
+  SetSize size{0, 0};
+  bool before = false;
+  for (char32_t codePoint = 1; codePoint <= 0x10FFFF; ++codePoint) {
+    const bool member = (codePoint < 0xD800 || codePoint > 0xDFFF) && isMember(codePoint);
+    size.codePoints += member ? 1 : 0;
+    size.ranges += member && !before ? 1 : 0;
+    before = member;
+  }
+  return size;
+}
+
+bool startsAName(char32_t codePoint) {
+  const std::string text = utf8Of(codePoint) + "zz";
+  return !isRefused(text) && only(text) == Lexer::UnescapedSymbolicName;
+}
+
+TEST(Names, FollowUnicode15) {
+  const auto continues = [](char32_t codePoint) {
+    const std::string text = "z" + utf8Of(codePoint);
+    return !isRefused(text) && only(text) == Lexer::UnescapedSymbolicName;
+  };
+  // The last block that Unicode 15.0 added, and characters that 15.1 added.
+  EXPECT_TRUE(startsAName(0x31350));
+  EXPECT_TRUE(startsAName(0x323AF));
+  EXPECT_FALSE(startsAName(0x323B0));
+  EXPECT_FALSE(startsAName(0x2EBF0));
+  EXPECT_FALSE(continues(0x200C));
+  EXPECT_FALSE(continues(0x30FB));
+  EXPECT_TRUE(continues(0xE0100));
+  EXPECT_TRUE(continues(0xE01EF));
+  EXPECT_FALSE(startsAName(0xE0100));
+  EXPECT_TRUE(startsAName(0x2040));
+  EXPECT_TRUE(startsAName(0xFF3F));
+  EXPECT_TRUE(continues(0x1ECB0));
+  EXPECT_FALSE(startsAName(0x1ECB0));
+}
+
+// A fragment's set is what the one set transition of its rule matches.
+SetSize sizeOfFragment(const std::string& name) {
+  const Pipeline pipeline("");
+  const auto& names = pipeline.lexer.getRuleNames();
+  const auto rule =
+      static_cast<std::size_t>(std::find(names.begin(), names.end(), name) - names.begin());
+  for (const antlr4::atn::ATNState* state : pipeline.lexer.getATN().states) {
+    if (state == nullptr || state->ruleIndex != rule) {
+      continue;
+    }
+    for (const auto& transition : state->transitions) {
+      if (!transition->isEpsilon()) {
+        const auto set = transition->label();
+        return sizeOfSet([&set](char32_t codePoint) {
+          return set.contains(static_cast<std::size_t>(codePoint));
+        });
+      }
+    }
+  }
+  return {0, 0};
+}
+
+TEST(Names, HaveTheSetsOfUnicode15) {
+  const auto expectSize = [](const std::string& name, std::size_t ranges, std::size_t codePoints) {
+    const SetSize size = sizeOfFragment(name);
+    EXPECT_EQ(size.ranges, ranges) << name;
+    EXPECT_EQ(size.codePoints, codePoints) << name;
+  };
+  expectSize("ID_Start", 659, 136345);
+  expectSize("ID_Continue", 768, 139482);
+  expectSize("Sc", 21, 63);
+  expectSize("Pc", 6, 10);
+}
+
+TEST(Numbers, TakeALowerCaseXAndO) {
+  EXPECT_EQ(only("0x1F"), Lexer::HexInteger);
+  EXPECT_EQ(only("0xaF"), Lexer::HexInteger);
+  EXPECT_EQ(types("0X1F"), (Types{Lexer::DecimalInteger, Lexer::UnescapedSymbolicName}));
+  EXPECT_EQ(only("0o17"), Lexer::OctalInteger);
+  EXPECT_EQ(types("0O17"), (Types{Lexer::DecimalInteger, Lexer::UnescapedSymbolicName}));
+  EXPECT_EQ(types("0o18"), (Types{Lexer::OctalInteger, Lexer::DecimalInteger}));
+}
+
+TEST(Numbers, EndBehindALeadingZero) {
+  EXPECT_EQ(types("017"), (Types{Lexer::DecimalInteger, Lexer::DecimalInteger}));
+  EXPECT_EQ(only("0"), Lexer::DecimalInteger);
+  EXPECT_EQ(only("10"), Lexer::DecimalInteger);
+}
+
+TEST(Numbers, OfOneDigitAreDecimalIntegers) {
+  for (const char digit : std::string("0123456789")) {
+    EXPECT_EQ(only(std::string(1, digit)), Lexer::DecimalInteger);
+  }
+}
+
+TEST(Numbers, WithAPointOrAnExponentAreReal) {
+  EXPECT_EQ(only("1.5"), Lexer::RegularDecimalReal);
+  EXPECT_EQ(only(".5"), Lexer::RegularDecimalReal);
+  EXPECT_EQ(only("007.50"), Lexer::RegularDecimalReal);
+  for (const char* text : {"1.5e3", "1e3", ".5e-3", "1E3", "00e0"}) {
+    EXPECT_EQ(only(text), Lexer::ExponentDecimalReal) << text;
+  }
+  EXPECT_EQ(types("1."), (Types{Lexer::DecimalInteger, Lexer::T__22}));
+}
+
+TEST(Numbers, TakeNoPlusSignInAnExponent) {
+  EXPECT_EQ(types("1e+3"),
+            (Types{Lexer::DecimalInteger, Lexer::HexLetter, Lexer::T__17, Lexer::DecimalInteger}));
+}
+
+TEST(Numbers, LeaveTwoFullStopsToARange) {
+  EXPECT_EQ(types("1..5"), (Types{Lexer::DecimalInteger, Lexer::T__11, Lexer::DecimalInteger}));
+}
+
+TEST(Strings, HoldAnythingButTheirQuoteAndABackslash) {
+  EXPECT_EQ(only("'a \"b\" `c`\n\u3000😀'"), Lexer::StringLiteral);
+  EXPECT_EQ(only("\"it's\""), Lexer::StringLiteral);
+  EXPECT_EQ(only("''"), Lexer::StringLiteral);
+  EXPECT_EQ(types("'a''b'"), (Types{Lexer::StringLiteral, Lexer::StringLiteral}));
+}
+
+TEST(Strings, HoldThirteenEscapesAndTwoKindsOfCodePoints) {
+  EXPECT_EQ(only(R"('a\'b')"), Lexer::StringLiteral);
+  for (const char* escape :
+       {"\\\\", "\\'", "\\\"", "\\B", "\\b", "\\F", "\\f", "\\N", "\\n", "\\R", "\\r", "\\T", "\\t",
+        "\\u00e9", "\\U00E9", "\\u0001F600", "\\U0001F600"}) {
+    EXPECT_EQ(only("'" + std::string(escape) + "'"), Lexer::StringLiteral) << escape;
+  }
+  for (const char* escape : {"\\x", "\\u12", "\\", "\\a", "\\0"}) {
+    EXPECT_TRUE(isRefused("'" + std::string(escape) + "'")) << escape;
+  }
+}
+
+TEST(Strings, ThatAreNotClosedAreErrors) {
+  EXPECT_TRUE(isRefused("'abc"));
+  EXPECT_TRUE(isRefused("\"abc'"));
+}
+
+TEST(Backslashes, OutsideAStringAreErrorsUnlessTheyBeginAnEscape) {
+  EXPECT_TRUE(isRefused("\\"));
+  EXPECT_TRUE(isRefused("\\x"));
+  EXPECT_EQ(only("\\n"), Lexer::EscapedChar);
+}
+
+TEST(WhiteSpace, OfAnyKindAndCommentsAreOneToken) {
+  EXPECT_EQ(only(" \t\n\v\f\r\x1C\x1D\x1E\x1F"), Lexer::SP);
+  EXPECT_EQ(only("\u00A0\u1680\u180E\u2000\u200A\u2028\u2029\u202F\u205F\u3000"), Lexer::SP);
+  EXPECT_EQ(only(" /* a */\t// b\n /**/"), Lexer::SP);
+  EXPECT_EQ(only("/**/"), Lexer::SP);
+  EXPECT_TRUE(isRefused("\u200B"));
+  EXPECT_TRUE(isRefused("\u0085"));
+}
+
+TEST(Comments, OfALineReachToItsEndOrTheEndOfTheText) {
+  EXPECT_EQ(only("// a"), Lexer::SP);
+  EXPECT_EQ(only("//"), Lexer::SP);
+  EXPECT_EQ(types("// a\nx"), (Types{Lexer::SP, Lexer::UnescapedSymbolicName}));
+  EXPECT_EQ(types("// a\r\nx"), (Types{Lexer::SP, Lexer::UnescapedSymbolicName}));
+  EXPECT_EQ(only("// a\r"), Lexer::SP);
+  EXPECT_EQ(types("//z\rz"), (Types{Lexer::T__19, Lexer::T__19, Lexer::UnescapedSymbolicName,
+                                    Lexer::SP, Lexer::UnescapedSymbolicName}));
+}
+
+TEST(Comments, OfABlockCloseOnlyBehindAnOddRunOfStars) {
+  EXPECT_EQ(only("/**/"), Lexer::SP);
+  EXPECT_EQ(only("/****/"), Lexer::SP);
+  EXPECT_EQ(only("/* a */"), Lexer::SP);
+  EXPECT_EQ(only("/* a ***/"), Lexer::SP);
+  EXPECT_EQ(types("/***/"),
+            (Types{Lexer::T__19, Lexer::T__4, Lexer::T__4, Lexer::T__4, Lexer::T__19}));
+  EXPECT_EQ(types("/* a **/"), (Types{Lexer::T__19, Lexer::T__4, Lexer::SP, Lexer::HexLetter,
+                                      Lexer::SP, Lexer::T__4, Lexer::T__4, Lexer::T__19}));
+}
+
+TEST(Comments, ThatAreNotClosedAreASlashAndAStar) {
+  EXPECT_EQ(types("/* z"),
+            (Types{Lexer::T__19, Lexer::T__4, Lexer::SP, Lexer::UnescapedSymbolicName}));
+}
+
+TEST(Symbols, AreTokensOfTheirOwn) {
+  std::size_t type = 1;
+  for (const char* text :
+       {";",      ",",      "=",      "+=",     "*",      "(",      ")",      "[",      "]",
+        ":",      "|",      "..",     "<>",     "<",      ">",      "<=",     ">=",     "+",
+        "-",      "/",      "%",      "^",      ".",      "{",      "}",      "$",      "\u27E8",
+        "\u3008", "\uFE64", "\uFF1C", "\u27E9", "\u3009", "\uFE65", "\uFF1E", "\u00AD", "\u2010",
+        "\u2011", "\u2012", "\u2013", "\u2014", "\u2015", "\u2212", "\uFE58", "\uFE63", "\uFF0D"}) {
+    EXPECT_EQ(only(text), type) << text;
+    ++type;
+  }
+  EXPECT_EQ(type, 46U);
+}
+
+TEST(Symbols, OfTwoCharactersAdmitNoBlankInside) {
+  EXPECT_EQ(types("< ="), (Types{Lexer::T__13, Lexer::SP, Lexer::T__2}));
+  EXPECT_EQ(only("<="), Lexer::T__15);
+}
+
+TEST(Symbols, ThatNoRuleKnowsAreErrors) {
+  for (const char* text : {"!", "#", "&", "?", "@", "~", "\u0001", "\u2022", "\U0001F600"}) {
+    EXPECT_TRUE(isRefused(text)) << text;
+  }
+}
+
+rc::Gen<std::string> genLexable() {
+  return rc::gen::map(rc::gen::container<std::vector<std::string>>(rc::gen::element<std::string>(
+                          "match", "x", "a", "`q``r`", "1", "0x1F", ".5", "1e3", "'s\\n'", "\"\"",
+                          " ", "/* c */", "//z\n", "<", "=", "..", ".", "$", "\u2014", "名前",
+                          "\U00020BB7", "\\n", "\t", "(", "]", "|")),
+                      [](const std::vector<std::string>& parts) {
+                        std::string text;
+                        for (const std::string& part : parts) {
+                          text += part;
+                        }
+                        return text;
+                      });
+}
+
+RC_GTEST_PROP(Tokens, StandSideBySideAndGiveTheTextBack, ()) {
+  const std::string text = *genLexable();
+  Pipeline pipeline(text);
+  pipeline.tokens.fill();
+  std::string joined;
+  std::size_t next = 0;
+  for (const antlr4::Token* token : pipeline.tokens.getTokens()) {
+    if (token->getType() != antlr4::Token::EOF) {
+      RC_ASSERT(token->getStartIndex() == next);
+      next = token->getStopIndex() + 1;
+      joined += token->getText();
+    }
+  }
+  RC_ASSERT(joined == text);
+}
+
+RC_GTEST_PROP(Tokens, AreNeverOfATypeThatAnotherOneAlwaysBeats, ()) {
+  for (const std::size_t type : types(*genLexable())) {
+    for (const std::size_t never : {Lexer::HexDigit, Lexer::Digit, Lexer::NonZeroDigit,
+                                    Lexer::NonZeroOctDigit, Lexer::OctDigit, Lexer::ZeroDigit,
+                                    Lexer::IdentifierStart, Lexer::WHITESPACE, Lexer::Comment}) {
+      RC_ASSERT(type != never);
+    }
+  }
+}
+
+}  // namespace
