@@ -21,8 +21,7 @@ fail() {
 helper=/usr/lib/apt/apt-helper
 [ -x "$helper" ] || fail "$helper is missing; put the contents of $archive into $target by hand."
 codename=$(. /etc/os-release && echo "${VERSION_CODENAME-}")
-mirror=$(apt-get indextargets --format '$(REPO_URI)' \
-    'Created-By: Packages' 'Component: main' "Release: $codename" 2>/dev/null | head -n 1)
+mirror=$(apt-get update --print-uris | sed -n "s|^'\(.*\)/dists/$codename/InRelease' .*|\1|p" | head -n 1)
 [ -n "$mirror" ] || fail "apt knows no mirror for Debian '$codename' to fetch $archive from."
 
 mkdir -p "$build"
@@ -31,7 +30,7 @@ trap 'rm -rf "$work"' EXIT
 
 echo "Fetching the ANTLR 4.10 runtime"
 "$helper" -q -o APT::Sandbox::User=root download-file \
-    "${mirror%/}/pool/main/a/antlr4-cpp-runtime/$archive" "$work/$archive" "SHA256:$sha256" \
+    "$mirror/pool/main/a/antlr4-cpp-runtime/$archive" "$work/$archive" "SHA256:$sha256" \
     >"$work/log" 2>&1 ||
     fail "cannot fetch $archive: $(grep -m 1 '^[EW]:' "$work/log" || tail -n 1 "$work/log")"
 mkdir "$work/unpacked"

@@ -1,0 +1,52 @@
+# The front door. `make help` lists what can be done.
+.DEFAULT_GOAL := help
+.PHONY: help setup build run test grammar check-grammar lint format clean
+
+BUILD := build/release
+OWN_CODE = $(shell git ls-files --cached --others --exclude-standard \
+             'include/*.h' 'src/*.h' 'src/*.cpp' 'platform/*.h' 'platform/*.cpp' \
+             'examples/*.h' 'examples/*.cpp' 'tests/*.h' 'tests/*.cpp')
+
+help: ## list these targets
+	@sed -n 's/^\([a-z-]*\):.*## /\1\t/p' $(MAKEFILE_LIST) | expand -t 16
+
+setup: ## install the packages that are missing, get the ANTLR runtime
+	@tools/install-packages.sh build
+	@tools/fetch-antlr-runtime.sh
+
+$(BUILD)/build.ninja: | setup
+	@cmake --preset release >/dev/null
+
+build: setup $(BUILD)/build.ninja ## build the library and vorn-inspect
+	@cmake --build --preset release --target VornLib vorn-inspect
+
+run: build ## print the answers for the sample queries and filters
+	@examples/show-samples.sh $(BUILD)/vorn-inspect
+
+test: setup $(BUILD)/build.ninja ## build everything and run all tests
+	@cmake --build --preset release
+	@ctest --preset release
+
+grammar: ## write grammar/generated/ anew from grammar/Cypher.g4
+	@tools/install-packages.sh grammar
+	@tools/fetch-antlr-tool.sh
+	@grammar/unicode_sets.py
+	@tools/generate-recognisers.sh
+
+check-grammar: ## fail if grammar/generated/ is not what grammar/Cypher.g4 gives
+	@tools/install-packages.sh grammar
+	@tools/fetch-antlr-tool.sh
+	@grammar/unicode_sets.py --check
+	@tools/generate-recognisers.sh --check
+
+lint: setup $(BUILD)/build.ninja ## check the format and run clang-tidy
+	@tools/install-packages.sh lint
+	@clang-format --dry-run --Werror $(OWN_CODE)
+	@run-clang-tidy -quiet -p $(BUILD) $(filter %.cpp,$(OWN_CODE))
+
+format: ## bring the sources into format
+	@tools/install-packages.sh lint
+	@clang-format -i $(OWN_CODE)
+
+clean: ## remove everything that was built, but not what was downloaded
+	@rm -rf build/release build/debug

@@ -1,0 +1,1 @@
+person.age >= 18 AND person:Person

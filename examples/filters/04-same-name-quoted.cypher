@@ -1,0 +1,1 @@
+`n`.name = n.alias XOR `n` = m

@@ -1,0 +1,1 @@
+gateway.hosts[0] <> gateway.hosts[1] AND toLower(gateway.name) IN $names AND coalesce(gateway.port, 443) = 443 AND gateway <> self

@@ -1,0 +1,221 @@
+#include "CommandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "ColumnsCommand.h"
+#include "Failure.h"
+#include "JsonLines.h"
+#include "RenameArgument.h"
+#include "RenameCommand.h"
+#include "StandardOutput.h"
+#include "SyntaxErrorView.h"
+#include "TextSource.h"
+#include "UsageError.h"
+#include "UsagesCommand.h"
+
+namespace inspect {
+
+namespace {
+
+constexpr int analysed = 0;
+constexpr int notAnalysed = 1;
+
+/// A command with the arguments it was given. The results of an option are read as they were typed:
+/// the parser's conversions to types give brackets and braces a meaning of their own.
+struct Invocation {
+  const Command* command;
+  CLI::App* app;
+  CLI::Option* text;
+  CLI::Option* file;
+  CLI::Option* json;
+  CLI::Option* jsonLines;
+  CLI::Option* map;
+};
+
+Invocation addCommand(CLI::App& program, const Command& command) {
+  const std::string noun = command.textNoun;
+  CLI::App* app = program.add_subcommand(command.name, command.description);
+  Invocation invocation{&command, app, nullptr, nullptr, nullptr, nullptr, nullptr};
+  invocation.text = app->add_option("TEXT", CLI::callback_t(),
+                                    "The " + noun + " itself, or - to read it from standard input");
+  invocation.file = app->add_option("--file", CLI::callback_t(), "Read the " + noun + " from FILE")
+                        ->type_name("FILE");
+  if (command.takesRenames) {
+    invocation.map =
+        app->add_option("--map", CLI::callback_t(), "A variable and its new name; may be repeated")
+            ->type_name("OLD=NEW")
+            ->take_all();
+  }
+  invocation.json = app->add_flag("--json", "Answer with one JSON object")->disable_flag_override();
+  invocation.jsonLines =
+      app->add_flag("--jsonl", "Answer each line of standard input, a JSON object, by another one")
+          ->disable_flag_override();
+  app->footer(
+      "Put -- before a TEXT that begins with a dash.\n\nA line for --jsonl, and its answer:\n    " +
+      std::string(command.example));
+  return invocation;
+}
+
+void describe(CLI::App& program) {
+  // Elsewhere than on Linux a text that begins with a slash would be taken for an option.
+  program.allow_windows_style_options(false);
+  program.require_subcommand(1);
+  program.set_version_flag("--version", "vorn-inspect " VORN_INSPECT_VERSION,
+                           "Print the version and exit");
+  program.footer(
+      "Examples:\n"
+      "    vorn-inspect columns \"MATCH (n)-[r]->() RETURN n, r, count(*)\"\n"
+      "    vorn-inspect usages \"n.age > 30 AND n:Person\"\n"
+      "    vorn-inspect rename --map n=m \"n.age > 30 AND n:Person\"\n"
+      "\n"
+      "Exit status: 0 if the text was analysed, 1 if it was not, 2 for wrong usage or a text that\n"
+      "cannot be read. With --jsonl 0 once all lines are answered.");
+}
+
+std::string helpHint(const Invocation* invocation) {
+  return invocation == nullptr ? "see vorn-inspect --help."
+                               : "see vorn-inspect " + invocation->app->get_name() + " --help.";
+}
+
+std::string adviceOn(const CLI::ParseError& error) {
+  if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
+    return "say what to do: columns, usages or rename";
+  }
+  if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
+    return std::string(error.what()) +
+           " (put a text with blanks in it between quotes, and -- before one with a dash in front)";
+  }
+  return error.what();
+}
+
+const Invocation* chosen(const std::vector<Invocation>& invocations) {
+  for (const Invocation& invocation : invocations) {
+    if (invocation.app->parsed()) {
+      return &invocation;
+    }
+  }
+  return nullptr;
+}
+
+bool given(const CLI::Option* option) { return option != nullptr && option->count() > 0; }
+
+void requireNothingBesideJsonLines(const Invocation& invocation) {
+  if (given(invocation.text) || given(invocation.file) || given(invocation.json) ||
+      given(invocation.map)) {
+    throw UsageError(
+        "--jsonl takes everything from standard input: leave out the other arguments.");
+  }
+}
+
+void requireOneText(const Invocation& invocation) {
+  if (given(invocation.text) == given(invocation.file)) {
+    const std::string noun = invocation.command->textNoun;
+    throw UsageError("give the " + noun +
+                     " once: as TEXT, in --file FILE or, on standard input, as -; " +
+                     helpHint(&invocation));
+  }
+  if (invocation.map != nullptr && !given(invocation.map)) {
+    throw UsageError("say what to rename, as in --map old=new; " + helpHint(&invocation));
+  }
+}
+
+std::string textOf(const Invocation& invocation) {
+  if (given(invocation.file)) {
+    const std::string& path = invocation.file->results().front();
+    std::string text = readFile(path);
+    requireUtf8(text, "'" + path + "'");
+    return text;
+  }
+  const std::string& argument = invocation.text->results().front();
+  std::string text = argument == "-" ? readStandardInput() : argument;
+  requireUtf8(text, "the " + std::string(invocation.command->textNoun));
+  return text;
+}
+
+Json renamesOf(const Invocation& invocation) {
+  Json renames = Json::object();
+  for (const std::string& argument : invocation.map->results()) {
+    requireUtf8(argument, "a name for --map");
+    auto [oldName, newName] = parseRenameArgument(argument);
+    if (renames.contains(oldName)) {
+      throw UsageError("give each variable one new name; '" + oldName + "' has two.");
+    }
+    renames[oldName] = std::move(newName);
+  }
+  return renames;
+}
+
+Json requestOf(const Invocation& invocation) {
+  Json request;
+  if (invocation.map != nullptr) {
+    request["renames"] = renamesOf(invocation);
+  }
+  request[invocation.command->textMember] = textOf(invocation);
+  return request;
+}
+
+int printJson(const Json& request, const Command& command) {
+  const Answer answer = answerTo(request, command);
+  writeOut(toLine(answer));
+  return answer.analysed ? analysed : notAnalysed;
+}
+
+void printFailure(const Failure& failure, const std::string& text) {
+  std::cerr << failure.message << '\n';
+  if (const auto place = placeOfSyntaxError(failure.message)) {
+    std::cerr << syntaxErrorView(text, *place);
+  }
+}
+
+int printReport(const Json& request, const Command& command) {
+  std::string report;
+  try {
+    report = command.report(request);
+  } catch (const std::exception& exception) {
+    printFailure(failureOf(exception), request.at(command.textMember));
+    return notAnalysed;
+  }
+  writeOut(report);
+  return analysed;
+}
+
+int run(const Invocation& invocation) {
+  if (given(invocation.jsonLines)) {
+    requireNothingBesideJsonLines(invocation);
+    answerJsonLines(*invocation.command);
+    return analysed;
+  }
+  requireOneText(invocation);
+  const Json request = requestOf(invocation);
+  return given(invocation.json) ? printJson(request, *invocation.command)
+                                : printReport(request, *invocation.command);
+}
+
+}  // namespace
+
+int runCommandLine(int argc, const char* const* argv) {
+  CLI::App program("Shows what VornLib understands of openCypher text.", "vorn-inspect");
+  describe(program);
+  std::vector<Invocation> invocations;
+  for (const Command* command : {&columnsCommand, &usagesCommand, &renameCommand}) {
+    invocations.push_back(addCommand(program, *command));
+  }
+  try {
+    program.parse(argc, argv);
+  } catch (const CLI::Success& success) {
+    // Help or the version was asked for.
+    std::ostringstream text;
+    program.exit(success, text, text);
+    writeOut(text.str());
+    return analysed;
+  } catch (const CLI::ParseError& error) {
+    throw UsageError(adviceOn(error) + "; " + helpHint(chosen(invocations)));
+  }
+  return run(*chosen(invocations));
+}
+
+}  // namespace inspect

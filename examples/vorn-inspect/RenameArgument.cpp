@@ -1,0 +1,35 @@
+#include "RenameArgument.h"
+
+#include <cstddef>
+
+#include "UsageError.h"
+
+namespace inspect {
+
+namespace {
+
+// A doubled back quote inside a quoted name closes and opens the quotes, which comes to the same.
+std::size_t findOutsideBackQuotes(std::string_view text, char wanted) {
+  bool quoted = false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '`') {
+      quoted = !quoted;
+    } else if (text[i] == wanted && !quoted) {
+      return i;
+    }
+  }
+  return std::string_view::npos;
+}
+
+}  // namespace
+
+std::pair<std::string, std::string> parseRenameArgument(std::string_view argument) {
+  const std::size_t equals = findOutsideBackQuotes(argument, '=');
+  if (equals == std::string_view::npos || equals == 0 || equals + 1 == argument.size()) {
+    throw UsageError("give --map an old and a new name, as in --map old=new, and not '" +
+                     std::string(argument) + "'.");
+  }
+  return {std::string(argument.substr(0, equals)), std::string(argument.substr(equals + 1))};
+}
+
+}  // namespace inspect

@@ -1,0 +1,58 @@
+#include "RenameCommand.h"
+
+#include <vorn/vorn.h>
+
+#include <unordered_map>
+#include <utility>
+
+#include "Request.h"
+#include "Utf16.h"
+
+namespace inspect {
+
+namespace {
+
+std::unordered_map<vorn::WideString, vorn::WideString> renamesOf(const Json& request) {
+  const auto member = request.find("renames");
+  if (member == request.end() || !member->is_object()) {
+    throw InputError("The line is no JSON object with an object \"renames\".");
+  }
+  std::unordered_map<vorn::WideString, vorn::WideString> renames;
+  for (const auto& [oldName, newName] : member->items()) {
+    if (!newName.is_string()) {
+      throw InputError("A new name in \"renames\" is no string.");
+    }
+    renames.emplace(toUtf16(oldName), toUtf16(newName.get_ref<const std::string&>()));
+  }
+  return renames;
+}
+
+std::string renamedExpression(const Json& request) {
+  const vorn::WideString expression = toUtf16(textMember(request, "expression"));
+  return toUtf8(
+      vorn::ReplaceVariableNamesInPropertyFilterOCExpression(expression, renamesOf(request)));
+}
+
+Answer answer(const Json& request) {
+  OrderedJson json;
+  json["expression"] = renamedExpression(request);
+  return {std::move(json), true};
+}
+
+std::string report(const Json& request) { return renamedExpression(request) + '\n'; }
+
+}  // namespace
+
+const Command renameCommand = {
+    "rename",
+    "Rename variables in a property filter",
+    "expression",
+    "filter",
+    true,
+    R"({"expression":"n.age > 30","renames":{"n":"m"}}
+    {"expression":"`m`.age > 30"})",
+    answer,
+    report,
+};
+
+}  // namespace inspect

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "Json.h"
+
+namespace inspect {
+
+/// A request that is not what the command takes.
+class InputError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// The JSON value that one line holds. Throws InputError.
+Json parseRequest(const std::string& line);
+
+/// The member of that name, which is to be a string. Throws InputError if there is none such, or if
+/// the request is no object.
+const std::string& textMember(const Json& request, std::string_view name);
+
+}  // namespace inspect

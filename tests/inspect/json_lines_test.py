@@ -1,0 +1,154 @@
+"""Batches: vorn-inspect COMMAND --jsonl"""
+
+import json
+import os
+import pty
+import subprocess
+
+from vorn_inspect import VORN_INSPECT, InspectTest, answer_lines, main, run
+
+GOOD = b'{"query":"RETURN 1"}'
+GOOD_ANSWER = '{"status":0,"columns":[{"name":"1","type":"Unknown"}]}'
+
+
+class Lines(InspectTest):
+    def assert_input_error(self, result: object) -> None:
+        self.assertIsInstance(result, dict)
+        self.assertEqual(list(result), ["error"], result)
+        self.assertEqual(list(result["error"]), ["kind", "message"])
+        self.assertEqual(result["error"]["kind"], "input")
+        self.assertRegex(result["error"]["message"], r"\A[^\n]{1,100}\.\Z")
+
+    def test_are_answered_in_order(self) -> None:
+        names = [f"n{i}" for i in range(50)]
+        answers = answer_lines("columns", *({"query": f"RETURN {name}"} for name in names))
+        self.assertEqual([answer["columns"][0]["name"] for answer in answers], names)
+
+    def test_that_are_no_requests_do_not_stop_the_batch(self) -> None:
+        for line in [
+            b"",
+            b"   ",
+            b"RETURN 1",
+            b"[]",
+            b"1",
+            b"null",
+            b'"RETURN 1"',
+            b"{}",
+            b'{"query":1}',
+            b'{"query":null}',
+            b'{"query":["RETURN 1"]}',
+            b'{"Query":"RETURN 1"}',
+            b'{"expression":"n"}',
+            b'{"query":"RETURN 1"',
+            b'{"query":"RETURN 1"} {}',
+            b"{'query':'RETURN 1'}",
+            b'{"query":"RETURN 1","number":1e999}',
+            b'{"query":"\\ud800"}',
+            b'{"query":"\\x"}',
+            b'{"query":"RETURN \xff"}',
+            b'{"query":"RETURN \xed\xa0\x80"}',
+            b"\xff\xfe",
+            b'{"query":"RETURN \x00"}',
+            b"\x00",
+            b'{"query":' * 100_000,
+            b"[" * 1_000_000 + b"]" * 1_000_000,
+        ]:
+            answers = answer_lines("columns", GOOD, line, GOOD)
+            self.assertEqual(len(answers), 3, line[:40])
+            self.assertEqual([answers[0], answers[2]], [json.loads(GOOD_ANSWER)] * 2)
+            self.assert_input_error(answers[1])
+
+    def test_of_the_other_commands_may_be_no_requests_either(self) -> None:
+        for command in ["usages", "rename"]:
+            for line in [b"", b"{}", b'{"query":"n"}', b'{"expression":1,"renames":{}}']:
+                (result,) = answer_lines(command, line)
+                self.assert_input_error(result)
+
+    def test_may_hold_further_members_however_deep(self) -> None:
+        deep = b"[" * 100_000 + b"]" * 100_000
+        (result,) = answer_lines("columns", b'{"id":7,"deep":' + deep + b',"query":"RETURN 1"}')
+        self.assertEqual(result, json.loads(GOOD_ANSWER))
+
+    def test_may_hold_any_character(self) -> None:
+        name = "zero \0 line\nfeed \u2028 quote \" back\\slash \x7f \U0001f9ed \uffff \ufeff é"
+        (result,) = answer_lines("columns", {"query": f"MATCH (`{name}`) RETURN *"})
+        self.assertEqual(result["columns"], [{"name": name, "type": "Node"}])
+
+    def test_are_answered_in_utf_8_without_needless_escapes(self) -> None:
+        request = '{"query":"MATCH (\\u5bbd), (`\\ud83e\\udded`) RETURN *"}'
+        self.assertIn('"宽"', run("columns", "--jsonl", given=request).output)
+        self.assertIn('"🧭"', run("columns", "--jsonl", given=request).output)
+
+    def test_may_be_a_megabyte(self) -> None:
+        text = "'" + "ü" * 1_000_000 + "'"
+        (result,) = answer_lines("columns", {"query": f"RETURN {text}"})
+        self.assertEqual(result["columns"], [{"name": text, "type": "Unknown"}])
+
+    def test_may_end_with_carriage_return_and_line_feed(self) -> None:
+        result = run("columns", "--jsonl", given=GOOD + b"\r\n" + GOOD + b"\r\n")
+        self.assertEqual(result.output, (GOOD_ANSWER + "\n") * 2)
+
+    def test_need_no_line_feed_at_the_end(self) -> None:
+        result = run("columns", "--jsonl", given=GOOD + b"\n" + GOOD)
+        self.assertEqual(result.output, (GOOD_ANSWER + "\n") * 2)
+
+    def test_may_be_none(self) -> None:
+        result = run("columns", "--jsonl", given=b"")
+        self.assertEqual((result.status, result.output, result.error), (0, "", ""))
+
+    def test_leave_the_status_at_0_whatever_they_say(self) -> None:
+        result = run("columns", "--jsonl", given=b'\n{"query":"MATCH"}\n')
+        self.assertEqual((result.status, result.error), (0, ""))
+
+    def test_are_answered_one_by_one(self) -> None:
+        with subprocess.Popen(
+            [VORN_INSPECT, "columns", "--jsonl"], stdin=subprocess.PIPE, stdout=subprocess.PIPE
+        ) as process:
+            assert process.stdin and process.stdout
+            for name in ["a", "b", "c"]:
+                process.stdin.write(json.dumps({"query": f"RETURN {name}"}).encode() + b"\n")
+                process.stdin.flush()
+                # Would wait for ever if the answer came with the next one only.
+                self.assertEqual(json.loads(process.stdout.readline())["columns"][0]["name"], name)
+            process.stdin.close()
+            self.assertEqual(process.wait(), 0)
+
+
+class Progress(InspectTest):
+    def batch_with_terminal(self, lines: int) -> str:
+        """What a batch of that many lines writes to a terminal that is its standard error."""
+        terminal, end = pty.openpty()
+        with subprocess.Popen(
+            [VORN_INSPECT, "columns", "--jsonl"],
+            stdin=subprocess.PIPE,
+            stdout=subprocess.DEVNULL,
+            stderr=end,
+        ) as process:
+            os.close(end)
+            process.communicate((GOOD + b"\n") * lines)
+        written = b""
+        try:
+            while chunk := os.read(terminal, 65536):
+                written += chunk
+        except OSError:
+            pass  # The other end is closed.
+        os.close(terminal)
+        return written.decode()
+
+    def test_of_a_long_batch_is_shown_in_place_and_wiped_at_the_end(self) -> None:
+        written = self.batch_with_terminal(350)
+        self.assertNotIn("\n", written)
+        *counters, blanks, rest = written.split("\r")[1:]
+        self.assertEqual(counters, ["100 lines", "200 lines", "300 lines"])
+        self.assertRegex(blanks, r"\A {9,}\Z")
+        self.assertEqual(rest, "")
+
+    def test_of_a_short_batch_is_not_shown(self) -> None:
+        self.assertEqual(self.batch_with_terminal(20), "")
+
+    def test_is_not_shown_elsewhere(self) -> None:
+        self.assertEqual(run("columns", "--jsonl", given=(GOOD + b"\n") * 350).error, "")
+
+
+if __name__ == "__main__":
+    main()

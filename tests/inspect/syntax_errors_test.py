@@ -1,0 +1,64 @@
+"""Syntax errors for people: the message, the line, and a caret under the place."""
+
+import re
+
+from vorn_inspect import InspectTest, main, run
+
+
+class SyntaxErrors(InspectTest):
+    def assert_view(self, text: str, place: str, line: str, caret: str, command: str = "usages") -> None:
+        arguments = ["--map", "n=m"] if command == "rename" else []
+        result = run(command, *arguments, "-", given=text)
+        self.assertEqual((result.status, result.output), (1, ""))
+        message, *view = result.error.removesuffix("\n").split("\n")
+        self.assertRegex(message, rf"\Aline {re.escape(place)} ")
+        self.assertEqual(view, ["  " + line, "  " + caret])
+
+    def test_have_a_caret_under_the_place(self) -> None:
+        self.assert_view("n.age > )", "1:8", "n.age > )", "        ^")
+        self.assert_view(")", "1:0", ")", "^")
+
+    def test_are_shown_by_rename_too(self) -> None:
+        self.assert_view("n.age > )", "1:8", "n.age > )", "        ^", "rename")
+
+    def test_may_be_one_past_the_end(self) -> None:
+        self.assert_view("n.age >", "1:7", "n.age >", "       ^")
+        self.assert_view("n.age >\n", "2:0", "", "^")
+        self.assert_view("", "1:0", "", "^")
+
+    def test_are_shown_with_their_line_alone(self) -> None:
+        self.assert_view("n.a = 1 AND\nn.b = ) AND\nn.c", "2:6", "n.b = ) AND", "      ^")
+
+    def test_have_a_caret_aligned_under_wide_characters(self) -> None:
+        self.assert_view("映画.題名 = )", "1:8", "映画.題名 = )", "            ^")
+
+    def test_count_characters_beyond_the_basic_plane_once(self) -> None:
+        self.assert_view("'🧭🧭' = )", "1:7", "'🧭🧭' = )", "         ^")
+
+    def test_have_a_caret_aligned_under_combining_marks(self) -> None:
+        self.assert_view("'e\u0301' = )", "1:7", "'e\u0301' = )", "      ^")
+
+    def test_inside_a_character_of_several_code_points_are_under_it(self) -> None:
+        self.assert_view("n = (\u0301", "1:5", "n = (\u0301", "    ^")
+
+    def test_have_a_caret_aligned_after_tabs(self) -> None:
+        self.assert_view("n\t=\t宽\t+\t)", "1:8", "n\t=\t宽\t+\t)", " \t \t  \t \t^")
+
+    def test_have_a_caret_aligned_after_control_characters(self) -> None:
+        self.assert_view("'\x1b' = )", "1:6", "'\\u001b' = )", "           ^")
+
+    def test_do_not_count_a_byte_order_mark(self) -> None:
+        self.assert_view("\ufeffn = )", "1:4", "n = )", "    ^")
+
+    def test_do_not_show_the_carriage_return_of_a_line_end(self) -> None:
+        self.assert_view("n =\r\n)\r\n", "2:0", ")", "^")
+        self.assert_view("n = )\r\n", "1:4", "n = )", "    ^")
+
+    def test_have_messages_as_they_are(self) -> None:
+        text = '"' + "x" * 10_000
+        result = run("usages", "-", given=text)
+        self.assertIn(text, result.error.split("\n")[0])
+
+
+if __name__ == "__main__":
+    main()

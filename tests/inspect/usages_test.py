@@ -1,0 +1,99 @@
+"""vorn-inspect usages"""
+
+import json
+
+from vorn_inspect import InspectTest, answer, answer_lines, main, run
+
+FORBIDDEN = (
+    "The openCypher element '' of type 'OC_Quantifier' is forbidden in a property filter expression."
+)
+
+
+class Usages(InspectTest):
+    def test_are_a_table_for_people(self) -> None:
+        result = run("usages", "n.age > 30 AND `n`:Person:Adult AND m OR n.address.city:`Big City`")
+        self.assertEqual(
+            result.output,
+            "Variable  Written as  Reads\n"
+            "────────  ──────────  ─────────────────────────\n"
+            "m         m           m\n"
+            "n         `n`, n      n:Adult:Person\n"
+            "                      n.address.city:`Big City`\n"
+            "                      n.age\n",
+        )
+
+    def test_quote_names_for_people_only_where_they_must(self) -> None:
+        output = run("usages", "`größe`.`a b`.`c``d`.`1st` = `_x1`.`映画` AND ``.``").output
+        reads = [line.split()[-1] for line in output.replace("a b", "a_b").splitlines()[2:]]
+        self.assertEqual(reads, ["_x1.映画", "``.``", "größe.`a_b`.`c``d`.`1st`"])
+
+    def test_are_one_object_as_json(self) -> None:
+        self.assertEqual(
+            run("usages", "--json", "n.age > 30").output,
+            '{"usages":[{"name":"`n`","writtenForms":["n"],'
+            '"accesses":[{"propertyPath":["`age`"],"labels":[]}]}]}\n',
+        )
+
+    def test_come_in_the_order_of_the_sets(self) -> None:
+        self.assertEqual(
+            answer("usages", "--json", "n.b.a:Z:Y AND n.b AND `n`:X AND n AND m"),
+            {
+                "usages": [
+                    {
+                        "name": "`m`",
+                        "writtenForms": ["m"],
+                        "accesses": [{"propertyPath": [], "labels": []}],
+                    },
+                    {
+                        "name": "`n`",
+                        "writtenForms": ["`n`", "n"],
+                        "accesses": [
+                            {"propertyPath": [], "labels": []},
+                            {"propertyPath": [], "labels": ["`X`"]},
+                            {"propertyPath": ["`b`"], "labels": []},
+                            {"propertyPath": ["`b`", "`a`"], "labels": ["`Y`", "`Z`"]},
+                        ],
+                    },
+                ]
+            },
+        )
+
+    def test_of_no_variable_get_a_sentence(self) -> None:
+        self.assertEqual(run("usages", "1 < $top").output, "The filter uses no variables.\n")
+        self.assertEqual(run("usages", "--json", "1 < $top").output, '{"usages":[]}\n')
+
+    def test_of_a_forbidden_element(self) -> None:
+        text = "any(x IN n.list WHERE x)"
+        result = run("usages", text)
+        self.assertEqual((result.status, result.output, result.error), (1, "", FORBIDDEN + "\n"))
+        result = run("usages", "--json", text)
+        self.assertEqual(result.status, 1)
+        self.assertEqual(
+            result.output, f'{{"error":{{"kind":"forbidden","message":"{FORBIDDEN}"}}}}\n'
+        )
+
+    def test_of_a_syntax_error_as_json(self) -> None:
+        result = run("usages", "--json", "n.age\n> )")
+        self.assertEqual(result.status, 1)
+        error = json.loads(result.output)["error"]
+        self.assertEqual(list(error), ["kind", "message"])
+        self.assertEqual(error["kind"], "syntax")
+        self.assertTrue(error["message"].startswith("line 2:2 "), error["message"])
+
+    def test_by_json_lines(self) -> None:
+        answers = answer_lines(
+            "usages",
+            {"expression": "n"},
+            {"expression": "n +"},
+            {"expression": "any(x IN n WHERE x)"},
+            {"expression": "$p"},
+        )
+        usage = {"name": "`n`", "writtenForms": ["n"], "accesses": [{"propertyPath": [], "labels": []}]}
+        self.assertEqual(answers[0], {"usages": [usage]})
+        self.assertEqual(answers[1]["error"]["kind"], "syntax")
+        self.assertEqual(answers[2], {"error": {"kind": "forbidden", "message": FORBIDDEN}})
+        self.assertEqual(answers[3], {"usages": []})
+
+
+if __name__ == "__main__":
+    main()
