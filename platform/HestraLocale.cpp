@@ -1,0 +1,82 @@
+#include "platform/HestraLocale.h"
+
+#if defined(_WIN32)
+#include <windows.h>
+#else
+#include <langinfo.h>
+
+#include <algorithm>
+#include <array>
+#include <clocale>
+#include <string_view>
+#endif
+
+namespace HestraLocale {
+
+#if defined(_WIN32)
+
+std::uint16_t GetLangID() noexcept { return PRIMARYLANGID(GetUserDefaultLangID()); }
+
+// Windows tells the Chinese of one country from that of another by the sublanguage, by these very
+// numbers.
+std::uint16_t GetCountryID() noexcept { return SUBLANGID(GetUserDefaultLangID()); }
+
+#else
+
+namespace {
+
+struct Identifier {
+  std::string_view name;
+  std::uint16_t value;
+};
+
+constexpr std::uint16_t chinese = 4;
+
+// The long names are the C library's aliases.
+constexpr std::array languages{Identifier{"ja", 17}, Identifier{"japanese", 17},
+                               Identifier{"ko", 18}, Identifier{"korean", 18},
+                               Identifier{"zh", chinese}};
+
+constexpr std::array chineseCountries{Identifier{"TW", 1}, Identifier{"CN", 2}, Identifier{"HK", 3},
+                                      Identifier{"SG", 4}, Identifier{"MO", 5}};
+
+template <typename Identifiers>
+std::uint16_t find(const Identifiers& identifiers, std::string_view name) {
+  const auto* found = std::find_if(identifiers.begin(), identifiers.end(),
+                                   [&](const Identifier& each) { return each.name == name; });
+  return found == identifiers.end() ? std::uint16_t{0} : found->value;
+}
+
+/// A name reads language[_country][.encoding][@variant].
+std::string_view nameOfLocale() {
+#if defined(__GLIBC__)
+  // The C library's conversions follow a locale that belongs to the thread. setlocale does not
+  // tell.
+  return nl_langinfo(_NL_LOCALE_NAME(LC_CTYPE));
+#else
+  return std::setlocale(LC_CTYPE, nullptr);
+#endif
+}
+
+std::string_view language() {
+  const std::string_view name = nameOfLocale();
+  return name.substr(0, name.find_first_of("_.@"));
+}
+
+std::string_view country() {
+  std::string_view name = nameOfLocale();
+  name = name.substr(0, name.find_first_of(".@"));
+  return name.substr(std::min(name.find('_'), name.size() - 1) + 1);
+}
+
+}  // namespace
+
+std::uint16_t GetLangID() noexcept { return find(languages, language()); }
+
+std::uint16_t GetCountryID() noexcept {
+  return GetLangID() == chinese ? find(chineseCountries, country()) : std::uint16_t{0};
+}
+
+#endif
+
+}  // namespace HestraLocale

@@ -1,0 +1,125 @@
+#include "strings/String.h"
+
+#include <cstring>
+#include <functional>
+#include <limits>
+#include <string>
+#include <utility>
+
+#include "platform/HestraLocale.h"
+#include "platform/WideCharacters.h"
+
+namespace {
+
+using Header = std::uint32_t;
+
+// The platform's primary language identifiers and its country identifiers of Chinese.
+constexpr std::uint16_t japanese = 17;
+constexpr std::uint16_t korean = 18;
+constexpr std::uint16_t chinese = 4;
+constexpr std::uint16_t taiwan = 1;
+constexpr std::uint16_t hongKong = 3;
+
+Header byteLengthBefore(const vorn::WideChar* characters) {
+  Header bytes = 0;
+  std::memcpy(&bytes, reinterpret_cast<const char*>(characters) - sizeof bytes, sizeof bytes);
+  return bytes;
+}
+
+bool writesTwoBytesPerCharacter(std::uint16_t language) {
+  return language == japanese || language == korean || language == chinese;
+}
+
+bool lengthDoublesInEuc() {
+  if (HestraLocale::GetLangID() != chinese) {
+    return false;
+  }
+  const std::uint16_t country = HestraLocale::GetCountryID();
+  return country == hongKong || country == taiwan;
+}
+
+// Saturates, so that a sum that does not fit is refused as too long and not taken for a short one.
+unsigned long sum(unsigned long a, unsigned long b) {
+  constexpr auto most = std::numeric_limits<unsigned long>::max();
+  return b > most - a ? most : a + b;
+}
+
+}  // namespace
+
+String::String(String&& other) noexcept : characters(std::exchange(other.characters, nullptr)) {}
+
+String::String(int id, HINSTANCE module) : characters(nullptr) {
+  LoadStringW(static_cast<unsigned int>(id), module);
+}
+
+String& String::operator=(String&& other) noexcept {
+  std::swap(characters, other.characters);
+  return *this;
+}
+
+String::operator const vorn::WideChar*() const noexcept { return characters; }
+
+String::operator std::basic_string_view<vorn::WideChar>() const noexcept {
+  return {characters, GetLength()};
+}
+
+vorn::WideChar String::GetAt(int i) const noexcept { return characters[i]; }
+
+std::uint32_t String::GetLength() const noexcept {
+  return byteLengthBefore(characters) / sizeof(vorn::WideChar);
+}
+
+std::uint32_t String::GetByteLength() const noexcept {
+  constexpr auto cannotBeEncoded = std::numeric_limits<std::uint32_t>::max();
+  const auto bytes = static_cast<std::uint32_t>(vorn::platform::multibyteLength(characters));
+  if (bytes != cannotBeEncoded) {
+    return bytes;
+  }
+  const std::uint32_t length = GetLength();
+  return writesTwoBytesPerCharacter(HestraLocale::GetLangID()) ? 2 * length : length;
+}
+
+std::uint32_t String::GetEucByteLength() const noexcept {
+  const std::uint32_t bytes = GetByteLength();
+  return lengthDoublesInEuc() ? 2 * bytes : bytes;
+}
+
+bool String::IsEmpty() const noexcept {
+  return byteLengthBefore(characters) < sizeof(vorn::WideChar);
+}
+
+void String::Empty() { CreateStringData(0, false, 0); }
+
+const String& String::ConcatImpl(const vorn::WideChar* s, unsigned long n) {
+  if (n == 0) {
+    return *this;
+  }
+  const std::uint32_t old = GetLength();
+  // The room may be made elsewhere, and a text that lies in here would run into its own copy.
+  vorn::WideString copy;
+  if (std::less_equal<>()(characters, s) && std::less_equal<>()(s, characters + old)) {
+    copy = s;
+    s = copy.c_str();
+  }
+  const unsigned long length = sum(old, n);
+  CreateStringData(length, true, 0);
+  vorn::platform::wcscpy(characters + old, s);
+  SetLengthImpl(length);
+  return *this;
+}
+
+int String::CompareNoCase(const vorn::WideChar* s) const noexcept {
+  if (characters == nullptr || s == nullptr) {
+    return std::numeric_limits<std::int32_t>::max();
+  }
+  return vorn::platform::wcsicmp(characters, s);
+}
+
+int String::Compare(const vorn::WideChar* s) const noexcept {
+  return vorn::platform::wcscmp(characters, s);
+}
+
+void String::SetLengthImpl(unsigned long n) noexcept {
+  const auto bytes = static_cast<Header>(n * sizeof(vorn::WideChar));
+  std::memcpy(reinterpret_cast<char*>(characters) - sizeof bytes, &bytes, sizeof bytes);
+}
