@@ -1,0 +1,28 @@
+#pragma once
+
+#include "strings/String.h"
+#include "strings/StringArray.h"
+
+// Access is not checked in an explicit instantiation, which lets a host reach a private member that
+// the library exports for it.
+
+template <typename Member, Member member>
+struct Reach {
+  friend Member reach(Member /*tag*/) { return member; }
+};
+
+using SetLengthImplMember = void (String::*)(unsigned long) noexcept;
+using CompareMember = int (*)(const void*, const void*);
+SetLengthImplMember reach(SetLengthImplMember tag);
+CompareMember reach(CompareMember tag);
+
+template struct Reach<SetLengthImplMember, &String::SetLengthImpl>;
+template struct Reach<CompareMember, &StringArray::Compare>;
+
+inline void setLength(String& string, unsigned long n) {
+  (string.*reach(SetLengthImplMember()))(n);
+}
+
+inline int compareElements(const void* left, const void* right) {
+  return reach(CompareMember())(left, right);
+}
