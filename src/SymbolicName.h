@@ -11,8 +11,8 @@ namespace vorn {
 /// The name between back quotes. A name that begins with one counts as quoted and is left as it is.
 std::string quoteSymbolicName(std::string_view name);
 
-/// The text without the back quotes around quoted names, wherever they stand in it, and with each
-/// doubled back quote inside a quoted name made one.
+/// The text with its back quotes taken out, wherever they stand, but for one of each doubled back quote
+/// inside a quoted name. It knows no string literals: back quotes in them count like any others.
 std::string unquoteSymbolicName(std::string_view text);
 
 }  // namespace vorn

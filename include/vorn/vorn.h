@@ -20,11 +20,17 @@
 ///   (vorn::ReplaceVariableNamesInPropertyFilterOCExpression)
 ///
 /// Text is UTF-16 on every platform, and every size of text below counts UTF-16 code units. Each
-/// call stands alone: nothing is kept between calls, nothing has to be set up or shut down, and any
-/// number of threads may call at the same time. What a call returns belongs to the caller.
+/// call stands alone: no answer depends on an earlier call, nothing has to be set up or shut down,
+/// and any number of threads may call at the same time. What a call returns belongs to the caller.
 ///
-/// The parser recurses: text that nests thousands of levels deep, about 1,000 levels of parentheses
-/// for each MiB of stack, overflows the calling thread's stack.
+/// A byte order mark at the start of a text is skipped and is not part of any answer.
+///
+/// Two things a host should know that reads text of strangers, and bound length and nesting:
+///
+/// - The parser recurses. Allow 2 KiB of the calling thread's stack for each level of nesting; a
+///   text that nests deeper than the stack allows ends the process, whichever function is called.
+/// - The tables by which the parser predicts are shared by the process. They grow with every new
+///   shape of text, and stay.
 
 #if defined(_WIN32)
 #if defined(VornLib_EXPORTS)
@@ -74,9 +80,13 @@ enum class CypherType : std::int32_t {
 ///       // columns is {{u"n", CypherType::Node}, {u"age", CypherType::Unknown}}
 ///     }
 ///
-/// A column is named by its alias or else by the text of its expression, in both cases without the
-/// back quotes around quoted names. The columns are those of the last `RETURN` or `WITH` in the
-/// text; a query without any, such as a lone `CREATE`, has none.
+/// A column is named by its alias or else by the text of its expression. In both cases back quotes
+/// are taken out, wherever they stand, string literals included; of a doubled one inside a quoted
+/// name one is left.
+///
+/// The columns are those of the last `RETURN` or `WITH` in the text; a query without any, such as a
+/// lone `CREATE`, has none. Names and number of the columns of a `UNION` are those of its last
+/// branch; the kinds of the earlier branches are merged in by position.
 ///
 /// @param query    The whole text of one query. It is only read.
 /// @param columns  On success replaced by the answer, whatever it held; on failure left as it was.
@@ -93,8 +103,7 @@ struct VariableAccess {
   /// The property keys, in reading order: `n.address.city` gives `` `address` `` and `` `city` ``.
   /// Empty when the variable is used without a property.
   std::vector<WideString> propertyPath;
-  /// The labels tested after the path: `n:Person` gives `` `Person` ``. Empty when there is no
-  /// test.
+  /// The labels tested after the path: `n:Person` gives `` `Person` ``. Empty without a test.
   std::set<WideString> labels;
 
   /// Orders by `propertyPath`, then by `labels`; names compare by UTF-16 code units.
@@ -117,9 +126,8 @@ struct VariableUsage {
 
 /// Finds the variables that a property filter (one openCypher expression) uses.
 ///
-///     auto usages = vorn::GetVariableUsagesInPropertyFilterOCExpression(u"n.age > 30 AND
-///     n:Person");
-///     // usages[u"`n`"].accesses holds {path (), labels (`Person`)} and {path (`age`), labels ()}
+///     auto usages = vorn::GetVariableUsagesInPropertyFilterOCExpression(u"n.age > 3 AND n:Adult");
+///     // usages[u"`n`"].accesses holds {path (), labels (`Adult`)} and {path (`age`), labels ()}
 ///
 /// The expression must begin with the first character of the text. Text after a complete expression
 /// is dropped if it cannot continue the expression, unless the parser reads an error in it first.
@@ -129,7 +137,7 @@ struct VariableUsage {
 /// @throws std::logic_error  The filter holds a list comprehension, a pattern comprehension, a
 ///         quantifier (`ALL`, `ANY`, `NONE`, `SINGLE`), a pattern predicate or an existential
 ///         subquery. The exception is of this very type, not of one derived from it; `what()` is
-///         UTF-8 and names the first such element.
+///         UTF-8 and names the type of the first such element.
 /// @throws std::exception  Any other failure, as a type derived from it. For text that is no
 ///         openCypher expression `what()` is "line L:C " and a description in UTF-8, with L the
 ///         line, counted from 1, and C the place in the line in code points, counted from 0.
@@ -142,21 +150,22 @@ VORN_API std::map<WideString, VariableUsage> GetVariableUsagesInPropertyFilterOC
 ///     vorn::ReplaceVariableNamesInPropertyFilterOCExpression(u"n.name = 'n'", {{u"n", u"m"}});
 ///     // gives u"`m`.name = 'n'"
 ///
-/// Every occurrence of a variable is renamed, also inside constructs that
-/// GetVariableUsagesInPropertyFilterOCExpression rejects: this function does not validate. Property
-/// keys, labels, function names and parameters are never renamed. Text after a complete expression
-/// is dropped.
+/// Every occurrence of a variable is renamed, also inside the elements that
+/// GetVariableUsagesInPropertyFilterOCExpression rejects: this function does not validate. Nothing
+/// else is renamed: no property key, label, relationship type, function, procedure, parameter, key
+/// of a map, nor what a string or a comment holds. Text after a complete expression is treated as
+/// by GetVariableUsagesInPropertyFilterOCExpression.
 ///
 /// @param expression  The text of the filter. It is only read.
-/// @param renames     New names by old names. An old name matches a variable whether either is
-/// written
-///         with back quotes or without. A new name that begins with a back quote is used as it is,
-///         unchecked; any other one is put between back quotes, those inside it doubled. If two old
-///         names mean the same variable, the one that comes later in the map's own order wins.
+/// @param renames     New names by old names. Back quotes around an old name make no difference,
+/// nor
+///         do those around a variable in the text. A new name that begins with a back quote is used
+///         as it is, unchecked; any other one, be it empty, is put between back quotes, those
+///         inside it doubled. If two old names mean one variable, the later one in the map's order
+///         wins.
 /// @return The text of the expression with the names replaced.
-/// @throws std::exception  As for GetVariableUsagesInPropertyFilterOCExpression, but for the
-/// rejected
-///         elements.
+/// @throws std::exception  Any failure, as a type derived from it: a text that is no openCypher
+///         expression, as above, or a text or a name, even an unused one, that is not well formed.
 /// @note Thread-safe.
 VORN_API WideString ReplaceVariableNamesInPropertyFilterOCExpression(
     const WideString& expression, const std::unordered_map<WideString, WideString>& renames);
