@@ -3,6 +3,7 @@
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "CypherBaseListener.h"
 #include "PropertyFilterExpressionInterrogator.h"

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <utility>
 
@@ -73,6 +72,7 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
 
     void exitOC_With(CypherParser::OC_WithContext* /*ctx*/) override { insideWith = false; }
 
+    // A RETURN inside a subquery of a WITH counts as part of that WITH and replaces the scope too.
     void enterOC_ProjectionItems(CypherParser::OC_ProjectionItemsContext* ctx) override {
       Scope newScope;
       columns.clear();

@@ -1,6 +1,7 @@
 #include <tree/ParseTreeWalker.h>
 
 #include <string>
+#include <utility>
 
 #include "CypherBaseListener.h"
 #include "PropertyFilterExpressionInterrogator.h"
