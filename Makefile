@@ -5,7 +5,8 @@
 BUILD := build/release
 OWN_CODE = $(shell git ls-files --cached --others --exclude-standard \
              'include/*.h' 'src/*.h' 'src/*.cpp' 'platform/*.h' 'platform/*.cpp' \
-             'examples/*.h' 'examples/*.cpp' 'tests/*.h' 'tests/*.cpp')
+             'strings/*.h' 'strings/*.cpp' 'examples/*.h' 'examples/*.cpp' \
+             'tests/*.h' 'tests/*.cpp')
 
 help: ## list these targets
 	@sed -n 's/^\([a-z-]*\):.*## /\1\t/p' $(MAKEFILE_LIST) | expand -t 16
@@ -41,8 +42,9 @@ check-grammar: ## fail if grammar/generated/ is not what grammar/Cypher.g4 gives
 
 lint: setup $(BUILD)/build.ninja ## check the format and run clang-tidy
 	@tools/install-packages.sh lint
+	@test -n '$(OWN_CODE)' || { echo 'lint: git lists no sources.' >&2; exit 1; }
 	@clang-format --dry-run --Werror $(OWN_CODE)
-	@run-clang-tidy -quiet -p $(BUILD) $(filter %.cpp,$(OWN_CODE))
+	@tools/run-clang-tidy.sh $(BUILD) $(filter %.cpp,$(OWN_CODE))
 
 format: ## bring the sources into format
 	@tools/install-packages.sh lint

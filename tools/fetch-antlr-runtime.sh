@@ -20,18 +20,25 @@ fail() {
 
 helper=/usr/lib/apt/apt-helper
 [ -x "$helper" ] || fail "$helper is missing; put the contents of $archive into $target by hand."
+# Any repository of this release may be Debian's mirror; the hash tells whether the file is right.
 codename=$(. /etc/os-release && echo "${VERSION_CODENAME-}")
-mirror=$(apt-get update --print-uris | sed -n "s|^'\(.*\)/dists/$codename/InRelease' .*|\1|p" | head -n 1)
-[ -n "$mirror" ] || fail "apt knows no mirror for Debian '$codename' to fetch $archive from."
+mirrors=$(apt-get update --print-uris 2>/dev/null |
+    sed -nE "s#^'(.*)/dists/($codename|stable|oldstable)/InRelease' .*#\\1#p" | sort -u)
+[ -n "$mirrors" ] || fail "apt knows no mirror for Debian '$codename' to fetch $archive from."
 
 mkdir -p "$build"
 work=$(mktemp -d "$build/antlr4-runtime.XXXXXX")
 trap 'rm -rf "$work"' EXIT
+trap 'exit 1' HUP INT TERM
 
 echo "Fetching the ANTLR 4.10 runtime"
-"$helper" -q -o APT::Sandbox::User=root download-file \
-    "$mirror/pool/main/a/antlr4-cpp-runtime/$archive" "$work/$archive" "SHA256:$sha256" \
-    >"$work/log" 2>&1 ||
+for mirror in $mirrors; do
+    ! "$helper" -q -o APT::Sandbox::User=root download-file \
+        "$mirror/pool/main/a/antlr4-cpp-runtime/$archive" "$work/$archive" "SHA256:$sha256" \
+        >"$work/log" 2>&1 || break
+    rm -f "$work/$archive"
+done
+[ -f "$work/$archive" ] ||
     fail "cannot fetch $archive: $(grep -m 1 '^[EW]:' "$work/log" || tail -n 1 "$work/log")"
 mkdir "$work/unpacked"
 tar -xJf "$work/$archive" -C "$work/unpacked" --strip-components=1 2>"$work/log" ||

@@ -21,6 +21,7 @@ command -v mvn >/dev/null || fail "mvn is missing; tools/install-packages.sh gra
 mkdir -p "$build"
 work=$(mktemp -d "$build/antlr-tool.XXXXXX")
 trap 'rm -rf "$work"' EXIT
+trap 'exit 1' HUP INT TERM
 
 echo "Fetching the ANTLR 4.10 tool"
 mvn -q -B dependency:get "-Dartifact=$artifact" -Dtransitive=false >"$work/log" 2>&1 &&
@@ -29,5 +30,5 @@ mvn -q -B dependency:get "-Dartifact=$artifact" -Dtransitive=false >"$work/log" 
     fail "Maven cannot get $artifact: $(grep -m 1 'ERROR' "$work/log" || tail -n 1 "$work/log")"
 jar=$work/antlr4-4.10-complete.jar
 echo "$sha256  $jar" | sha256sum --check --status ||
-    fail "$artifact has the wrong SHA-256 hash; nothing was kept."
+    fail "$artifact has the wrong SHA-256 hash; remove it from Maven's local repository before the next try."
 mv "$jar" "$target"

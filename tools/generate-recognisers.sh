@@ -14,11 +14,16 @@ fail() {
     exit 1
 }
 
+case "${1-}" in
+    "" | --check) ;;
+    *) fail "the only argument is --check." ;;
+esac
 command -v java >/dev/null || fail "java is missing; tools/install-packages.sh grammar installs it."
 [ -f "$jar" ] || fail "$jar is missing; tools/fetch-antlr-tool.sh fetches it."
 
 work=$(mktemp -d "$root/build/generated.XXXXXX")
 trap 'rm -rf "$work"' EXIT
+trap 'exit 1' HUP INT TERM
 
 # The tool writes the grammar's path into the sources, so it runs beside the grammar.
 cd "$root/grammar"
@@ -32,6 +37,5 @@ if [ "${1-}" = --check ]; then
         fail "grammar/generated/ differs from what the tool writes; run make grammar."
 else
     mkdir -p "$generated"
-    rm -f "$generated"/*
-    cp "$work"/* "$generated"
+    mv "$work"/* "$generated"
 fi

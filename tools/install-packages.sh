@@ -14,14 +14,14 @@ fail() {
 case "${1-}" in
     build) packages="g++ cmake ninja-build python3 xz-utils libutfcpp-dev
                      libcli11-dev nlohmann-json3-dev libutf8proc-dev
-                     libgtest-dev librapidcheck-dev" ;;
+                     libgtest-dev librapidcheck-dev locales" ;;
     grammar) packages="python3 unicode-data maven default-jre-headless" ;;
     lint) packages="clang-format clang-tidy" ;;
     *) fail "say which packages: build, grammar or lint." ;;
 esac
 
 command -v dpkg-query >/dev/null ||
-    fail "this is no Debian system; install the counterparts of these packages by hand:" $packages
+    fail "this is no Debian system; install the counterparts of these packages by hand: $(echo $packages)"
 
 missing=""
 for package in $packages; do
@@ -38,6 +38,7 @@ fi
 
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
+trap 'exit 1' HUP INT TERM
 
 run_apt() {
     $as_root env DEBIAN_FRONTEND=noninteractive apt-get -q "$@" >"$log" 2>&1 </dev/null ||
@@ -45,6 +46,6 @@ run_apt() {
 }
 
 echo "Installing$missing"
-run_apt update
+run_apt update -o APT::Update::Error-Mode=any
 # shellcheck disable=SC2086 # one argument for each package
 run_apt install --yes --no-install-recommends $missing
