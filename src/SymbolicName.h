@@ -11,8 +11,9 @@ namespace vorn {
 /// The name between back quotes. A name that begins with one counts as quoted and is left as it is.
 std::string quoteSymbolicName(std::string_view name);
 
-/// The text with its back quotes taken out, wherever they stand, but for one of each doubled back quote
-/// inside a quoted name. It knows no string literals: back quotes in them count like any others.
+/// The text with its back quotes taken out, wherever they stand, but for one of each doubled back
+/// quote inside a quoted name. It knows no string literals: back quotes in them count like any
+/// others.
 std::string unquoteSymbolicName(std::string_view text);
 
 }  // namespace vorn

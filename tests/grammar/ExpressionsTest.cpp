@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "support/Accepts.h"
-#include "support/Tree.h"
+#include "support/ParsedText.h"
 
 using vorn::CypherParser;
 using Texts = std::vector<std::string>;
@@ -9,7 +9,7 @@ using Texts = std::vector<std::string>;
 namespace {
 
 TEST(Comparisons, ChainInOneContext) {
-  const Tree tree = Tree::ofExpression("1 < 2 <= 3");
+  const ParsedText tree = ParsedText::ofExpression("1 < 2 <= 3");
   const auto comparisons = tree.all<CypherParser::OC_ComparisonExpressionContext>();
   ASSERT_EQ(comparisons.size(), 1U);
   EXPECT_EQ(comparisons.front()->oC_PartialComparisonExpression().size(), 2U);
@@ -18,7 +18,7 @@ TEST(Comparisons, ChainInOneContext) {
 
 TEST(Predicates, FollowAnOperandInAnyOrder) {
   for (const char* text : {"n STARTS WITH 'a' IS NOT NULL", "n IS NOT NULL STARTS WITH 'a'"}) {
-    const Tree tree = Tree::ofExpression(text);
+    const ParsedText tree = ParsedText::ofExpression(text);
     const auto all = tree.all<CypherParser::OC_StringListNullPredicateExpressionContext>();
     ASSERT_EQ(all.size(), 1U) << text;
     EXPECT_EQ(all.front()->oC_StringPredicateExpression().size(), 1U) << text;
@@ -50,7 +50,7 @@ TEST(BooleanOperators, DemandWhiteSpaceEvenNextToParentheses) {
 }
 
 TEST(BooleanOperators, BindOrLooserThanXorLooserThanAndLooserThanNot) {
-  const Tree tree = Tree::ofExpression("g OR h XOR NOT i AND j");
+  const ParsedText tree = ParsedText::ofExpression("g OR h XOR NOT i AND j");
   EXPECT_EQ(tree.texts<CypherParser::OC_XorExpressionContext>(), (Texts{"g", "h XOR NOT i AND j"}));
   EXPECT_EQ(tree.texts<CypherParser::OC_AndExpressionContext>(), (Texts{"g", "h", "NOT i AND j"}));
   EXPECT_EQ(tree.texts<CypherParser::OC_NotExpressionContext>(), (Texts{"g", "h", "NOT i", "j"}));
@@ -62,23 +62,23 @@ TEST(BooleanOperators, MayNegateManyTimes) {
 }
 
 TEST(Arithmetic, IsAFlatListOfOperands) {
-  const Tree tree = Tree::ofExpression("1 + 2 - 3+4");
+  const ParsedText tree = ParsedText::ofExpression("1 + 2 - 3+4");
   EXPECT_EQ(tree.count<CypherParser::OC_AddOrSubtractExpressionContext>(), 1U);
   EXPECT_EQ(tree.texts<CypherParser::OC_MultiplyDivideModuloExpressionContext>(),
             (Texts{"1", "2", "3", "4"}));
 }
 
 TEST(Arithmetic, BindsPowersTighterThanProductsTighterThanSums) {
-  const Tree tree = Tree::ofExpression("1+2*3^4%5");
+  const ParsedText tree = ParsedText::ofExpression("1+2*3^4%5");
   EXPECT_EQ(tree.texts<CypherParser::OC_MultiplyDivideModuloExpressionContext>(),
             (Texts{"1", "2*3^4%5"}));
   EXPECT_EQ(tree.texts<CypherParser::OC_PowerOfExpressionContext>(), (Texts{"1", "2", "3^4", "5"}));
 }
 
 TEST(Signs, BindTighterThanPowers) {
-  EXPECT_EQ(
-      Tree::ofExpression("-2^3").texts<CypherParser::OC_UnaryAddOrSubtractExpressionContext>(),
-      (Texts{"-2", "3"}));
+  EXPECT_EQ(ParsedText::ofExpression("-2^3")
+                .texts<CypherParser::OC_UnaryAddOrSubtractExpressionContext>(),
+            (Texts{"-2", "3"}));
 }
 
 TEST(Signs, StandAloneBeforeAnOperand) {
@@ -115,10 +115,10 @@ TEST(Properties, ComeBeforeLabelsAndBehindAnAtom) {
 }
 
 TEST(Atoms, OfCountAndAStarAreNoFunction) {
-  const Tree star = Tree::ofExpression("COUNT ( * )");
+  const ParsedText star = ParsedText::ofExpression("COUNT ( * )");
   EXPECT_EQ(star.count<CypherParser::OC_FunctionInvocationContext>(), 0U);
   EXPECT_NE(star.all<CypherParser::OC_AtomContext>().front()->COUNT(), nullptr);
-  const Tree call = Tree::ofExpression("COUNT(n)");
+  const ParsedText call = ParsedText::ofExpression("COUNT(n)");
   EXPECT_EQ(call.texts<CypherParser::OC_FunctionNameContext>(), Texts{"COUNT"});
   EXPECT_TRUE(acceptsExpression("count( DISTINCT n )"));
 }
@@ -127,7 +127,8 @@ TEST(Atoms, OfExistsWantBraces) {
   EXPECT_FALSE(acceptsExpression("EXISTS(n.x)"));
   for (const char* text : {"EXISTS { (n)-->(m) }", "EXISTS{(n)}", "exists { (n)--() WHERE n.x }",
                            "EXISTS { MATCH (n) RETURN n }", "EXISTS { RETURN 1 UNION RETURN 2 }"}) {
-    EXPECT_EQ(Tree::ofExpression(text).count<CypherParser::OC_ExistentialSubqueryContext>(), 1U)
+    EXPECT_EQ(ParsedText::ofExpression(text).count<CypherParser::OC_ExistentialSubqueryContext>(),
+              1U)
         << text;
     EXPECT_TRUE(acceptsExpression(text)) << text;
   }
@@ -136,7 +137,7 @@ TEST(Atoms, OfExistsWantBraces) {
 
 template <typename Context>
 bool isTakenFor(const std::string& text) {
-  const Tree tree = Tree::ofExpression(text);
+  const ParsedText tree = ParsedText::ofExpression(text);
   auto* first = tree.all<CypherParser::OC_AtomContext>().front()->children.front();
   return dynamic_cast<Context*>(first) != nullptr && first->getText() == text;
 }
@@ -204,8 +205,9 @@ TEST(Literals, AreOfManyKinds) {
 }
 
 TEST(StartRule, OfAnExpressionLeavesTheRestOfTheText) {
-  EXPECT_EQ(Tree::ofExpression("n.a = 1 RETURN n").texts<CypherParser::OC_ExpressionContext>(),
-            Texts{"n.a = 1"});
+  EXPECT_EQ(
+      ParsedText::ofExpression("n.a = 1 RETURN n").texts<CypherParser::OC_ExpressionContext>(),
+      Texts{"n.a = 1"});
 }
 
 }  // namespace

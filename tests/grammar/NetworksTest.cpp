@@ -8,9 +8,8 @@ namespace {
 // greatest token type, then the lists that stand before the sets.
 class SerializedNetwork {
  public:
-  explicit SerializedNetwork(antlr4::atn::SerializedATNView values) : rest(values) {
-    version = next();
-    const bool isLexer = next() == 0;
+  explicit SerializedNetwork(antlr4::atn::SerializedATNView values)
+      : rest(values), version(next()), isLexer(next() == 0) {
     next();
     for (int states = next(); states > 0; --states) {
       skipState();
@@ -22,8 +21,8 @@ class SerializedNetwork {
     sets = next();
   }
 
-  int version;
-  int sets;
+  int getVersion() const { return version; }
+  int getSets() const { return sets; }
 
  private:
   int next() { return rest[at++]; }
@@ -40,6 +39,9 @@ class SerializedNetwork {
 
   antlr4::atn::SerializedATNView rest;
   std::size_t at = 0;
+  int version;
+  bool isLexer;
+  int sets = 0;
 };
 
 TEST(LexerNetwork, HasTheSizeOfTheGrammar) {
@@ -52,8 +54,8 @@ TEST(LexerNetwork, HasTheSizeOfTheGrammar) {
   EXPECT_EQ(atn.maxTokenType, 129U);
   EXPECT_TRUE(atn.lexerActions.empty());
   const SerializedNetwork serialized(pipeline.lexer.getSerializedATN());
-  EXPECT_EQ(serialized.version, 4);
-  EXPECT_EQ(serialized.sets, 47);
+  EXPECT_EQ(serialized.getVersion(), 4);
+  EXPECT_EQ(serialized.getSets(), 47);
   EXPECT_EQ(pipeline.lexer.getSerializedATN().size(), 11961U);
 }
 
@@ -64,7 +66,7 @@ TEST(ParserNetwork, HasTheSizeOfTheGrammar) {
   EXPECT_EQ(atn.ruleToStartState.size(), 104U);
   EXPECT_EQ(atn.decisionToState.size(), 300U);
   EXPECT_EQ(atn.maxTokenType, 129U);
-  EXPECT_EQ(SerializedNetwork(pipeline.parser.getSerializedATN()).sets, 10);
+  EXPECT_EQ(SerializedNetwork(pipeline.parser.getSerializedATN()).getSets(), 10);
 }
 
 TEST(Networks, AreBuiltOnceAndShared) {

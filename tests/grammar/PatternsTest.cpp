@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "support/Accepts.h"
-#include "support/Tree.h"
+#include "support/ParsedText.h"
 
 using vorn::CypherParser;
 
@@ -17,7 +17,7 @@ struct Heads {
 };
 
 Heads headsOf(const std::string& pattern) {
-  const Tree tree = Tree::ofQuery("MATCH " + pattern + " RETURN 1");
+  const ParsedText tree = ParsedText::ofQuery("MATCH " + pattern + " RETURN 1");
   const auto relationships = tree.all<CypherParser::OC_RelationshipPatternContext>();
   EXPECT_EQ(relationships.size(), 1U);
   return {relationships.front()->oC_LeftArrowHead() != nullptr,

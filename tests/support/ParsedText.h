@@ -8,16 +8,16 @@
 #include "support/Pipeline.h"
 
 /// The parse tree of one text, from either start rule.
-class Tree {
+class ParsedText {
  public:
-  static Tree ofQuery(std::string_view utf8) {
-    Tree tree(utf8);
+  static ParsedText ofQuery(std::string_view utf8) {
+    ParsedText tree(utf8);
     tree.root = tree.pipeline->parser.oC_Cypher();
     return tree;
   }
 
-  static Tree ofExpression(std::string_view utf8) {
-    Tree tree(utf8);
+  static ParsedText ofExpression(std::string_view utf8) {
+    ParsedText tree(utf8);
     tree.root = tree.pipeline->parser.oC_Expression();
     return tree;
   }
@@ -46,7 +46,7 @@ class Tree {
   }
 
  private:
-  explicit Tree(std::string_view utf8) : pipeline(std::make_unique<Pipeline>(utf8)) {}
+  explicit ParsedText(std::string_view utf8) : pipeline(std::make_unique<Pipeline>(utf8)) {}
 
   template <typename Context>
   static void collect(antlr4::tree::ParseTree* node, std::vector<Context*>& found) {
