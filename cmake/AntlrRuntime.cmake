@@ -9,7 +9,7 @@ endif()
 
 find_package(Threads REQUIRED)
 
-file(GLOB_RECURSE antlr_sources CONFIGURE_DEPENDS "${VORN_ANTLR_SOURCE}/src/*.cpp")
+file(GLOB_RECURSE antlr_sources "${VORN_ANTLR_SOURCE}/src/*.cpp")
 add_library(vorn_antlr_runtime STATIC ${antlr_sources})
 target_include_directories(vorn_antlr_runtime SYSTEM PUBLIC "${VORN_ANTLR_SOURCE}/src")
 target_compile_definitions(vorn_antlr_runtime PUBLIC ANTLR4CPP_STATIC)
