@@ -40,12 +40,14 @@ log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 trap 'exit 1' HUP INT TERM
 
+# What apt-get says goes into the log: its first error, and the first file that it could not fetch.
 run_apt() {
-    $as_root env DEBIAN_FRONTEND=noninteractive apt-get -q "$@" >"$log" 2>&1 </dev/null ||
-        fail "apt-get $1 failed for$missing: $(grep -m 1 '^E:' "$log" || tail -n 1 "$log")"
+    $as_root env DEBIAN_FRONTEND=noninteractive apt-get -q "$@" >>"$log" 2>&1 </dev/null ||
+        fail "apt-get $1 failed for$missing: $(grep -m 1 '^E:' "$log") $(grep -m 1 '^W: Failed' "$log")"
 }
 
 echo "Installing$missing"
-run_apt update -o APT::Update::Error-Mode=any
+# A repository that cannot be reached matters only if a package is missing because of it.
+run_apt update
 # shellcheck disable=SC2086 # one argument for each package
 run_apt install --yes --no-install-recommends $missing
