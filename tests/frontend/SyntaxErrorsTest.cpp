@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <locale>
+#include <typeinfo>
 
 #include "CypherInterrogator.h"
+#include "PropertyFilterExpressionInterrogator.h"
 #include "ThrowingErrorListener.h"
 #include "support/Text.h"
 
@@ -43,9 +45,58 @@ TEST(SyntaxErrors, CountCodePoints) {
   EXPECT_EQ(placeOf("RETURN '😀' )"), "line 1:11 ");
 }
 
+TEST(SyntaxErrors, CountCodePointsInTheLineOfTheError) {
+  EXPECT_EQ(placeOf("RETURN '\U00020BB7\U00020BB7', /* 😀\r\n名 */ '😀' ?"), "line 2:9 ");
+  EXPECT_EQ(placeOf("RETURN '\U00020BB7\U00020BB7', /* 😀\r\n名 */ '😀' )"), "line 2:9 ");
+  EXPECT_EQ(placeOf("RETURN 'e\u0301' ?"), "line 1:12 ");
+}
+
+// A lone carriage return is a character like any other of its line.
+TEST(SyntaxErrors, CountLineFeedsAsEndsOfLines) {
+  EXPECT_EQ(placeOf("\r\r?"), "line 1:2 ");
+  EXPECT_EQ(placeOf("\n\r?"), "line 2:1 ");
+  EXPECT_EQ(placeOf("\u2028?"), "line 1:1 ");
+  EXPECT_EQ(placeOf("RETURN 'a\nb' ?"), "line 2:3 ");
+}
+
+TEST(SyntaxErrors, OfTheLexerStandWhereTheTokenBegins) {
+  EXPECT_EQ(placeOf("RETURN 'abc"), "line 1:7 ");
+  EXPECT_EQ(placeOf("RETURN\n `abc\n"), "line 2:1 ");
+  EXPECT_EQ(messageOf("RETURN 'a\\x'"), R"(line 1:7 token recognition error at: ''a\x')");
+}
+
+TEST(SyntaxErrors, OfTheParserSpellOutLineBreaksOfTheText) {
+  EXPECT_EQ(messageOf("RETURN\n\t)"), "line 2:1 no viable alternative at input '\\n\\t)'");
+}
+
+TEST(SyntaxErrors, OfAFilterHaveTheSameForm) {
+  const auto messageOfFilter = [](std::string_view filter) -> std::string {
+    try {
+      const vorn::PropertyFilterExpressionInterrogator interrogator(wide(filter));
+    } catch (const antlr4::ParseCancellationException& error) {
+      return error.what();
+    }
+    return "no error";
+  };
+  EXPECT_EQ(messageOfFilter("n.a =\n '😀' + ?"), "line 2:7 token recognition error at: '?'");
+  EXPECT_EQ(messageOfFilter("").rfind("line 1:0 ", 0), 0U);
+}
+
+TEST(SyntaxErrors, AreOfTheTypeThatTheRuntimeHasForThem) {
+  for (const char* query : {"RETURN ?", "RETURN )", ""}) {
+    try {
+      const vorn::CypherInterrogator interrogator(wide(query));
+      FAIL() << query;
+    } catch (const std::exception& error) {
+      EXPECT_EQ(typeid(error), typeid(antlr4::ParseCancellationException)) << query;
+    }
+  }
+}
+
 TEST(SyntaxErrors, ReportTheFirstOfSeveral) {
   EXPECT_EQ(placeOf("RETURN ? ) ?"), "line 1:7 ");
   EXPECT_EQ(placeOf("RETURN ) ?"), "line 1:7 ");
+  EXPECT_EQ(placeOf("RETURN )\nRETURN )"), "line 1:7 ");
 }
 
 TEST(SyntaxErrors, AreNeverPrinted) {
@@ -53,6 +104,8 @@ TEST(SyntaxErrors, AreNeverPrinted) {
   testing::internal::CaptureStderr();
   messageOf("RETURN ?");
   messageOf("RETURN )");
+  messageOf("");
+  messageOf("RETURN [x IN xs]");
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
