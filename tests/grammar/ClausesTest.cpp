@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "support/Accepts.h"
+#include "support/ParsedText.h"
+
+using vorn::CypherParser;
 
 namespace {
 
@@ -166,6 +169,150 @@ TEST(Order, SkipAndLimitComeInThisOrder) {
   EXPECT_FALSE(accepts("RETURN 1 LIMIT(1)"));
   EXPECT_FALSE(accepts("RETURN 1 SKIP(1)"));
   EXPECT_FALSE(accepts("RETURN (1)LIMIT 1"));
+}
+
+TEST(Statements, MayStandBetweenBlanksAndComments) {
+  EXPECT_TRUE(accepts("/* a */ RETURN 1 // b\n /* c */ ; // d"));
+  EXPECT_FALSE(accepts("// RETURN 1"));
+  EXPECT_FALSE(accepts(""));
+}
+
+TEST(Statements, HoldNoTokenThatNoRuleUses) {
+  EXPECT_FALSE(acceptsExpression("\\n"));
+  EXPECT_FALSE(acceptsExpression("€"));
+  EXPECT_FALSE(acceptsExpression("n.€"));
+}
+
+TEST(Queries, AreOfOnePartOrOfSeveral) {
+  const ParsedText one = ParsedText::ofQuery("MATCH (n) RETURN n");
+  EXPECT_EQ(one.count<CypherParser::OC_SinglePartQueryContext>(), 1U);
+  EXPECT_EQ(one.count<CypherParser::OC_MultiPartQueryContext>(), 0U);
+  const ParsedText several =
+      ParsedText::ofQuery("MATCH (n) WITH n CREATE (m) WITH * UNWIND n.xs AS x RETURN x");
+  const auto multiPart = several.all<CypherParser::OC_MultiPartQueryContext>();
+  ASSERT_EQ(multiPart.size(), 1U);
+  EXPECT_EQ(multiPart.front()->oC_With().size(), 2U);
+  EXPECT_EQ(multiPart.front()->oC_ReadingClause().size(), 1U);
+  EXPECT_EQ(multiPart.front()->oC_UpdatingClause().size(), 1U);
+  EXPECT_EQ(multiPart.front()->oC_SinglePartQuery()->getText(), "UNWIND n.xs AS x RETURN x");
+}
+
+TEST(Unions, MayKeepDuplicates) {
+  const auto allOf = [](const std::string& query) {
+    const ParsedText tree = ParsedText::ofQuery(query);
+    return tree.all<CypherParser::OC_UnionContext>().front()->ALL() != nullptr;
+  };
+  EXPECT_FALSE(allOf("RETURN 1 UNION RETURN 2"));
+  EXPECT_TRUE(allOf("RETURN 1 UNION ALL RETURN 2"));
+  EXPECT_TRUE(allOf("RETURN [1]UNION/**/ALL/**/RETURN 2"));
+}
+
+TEST(With, DemandsWhiteSpaceAndTakesAWhere) {
+  EXPECT_TRUE(accepts("MATCH (n) WITH n WHERE n.x RETURN n"));
+  EXPECT_TRUE(accepts("MATCH (n) WITH DISTINCT n ORDER BY n.x SKIP 1 LIMIT 2 WHERE n.x RETURN n"));
+  EXPECT_TRUE(accepts("MATCH (n) WITH [n] AS ns, (n)WHERE n.x RETURN ns"));
+  EXPECT_FALSE(accepts("MATCH (n) WITH* RETURN n"));
+  EXPECT_FALSE(accepts("MATCH (n) WITH(n) RETURN n"));
+  EXPECT_FALSE(accepts("MATCH (n) RETURN n WHERE n.x"));
+}
+
+TEST(Keywords, ThatDemandWhiteSpaceDoSoNextToSymbols) {
+  EXPECT_FALSE(accepts("CALL`p`()"));
+  EXPECT_FALSE(accepts("CALL p() YIELD`x`"));
+  EXPECT_FALSE(accepts("RETURN 1 AS`x`"));
+  EXPECT_FALSE(accepts("UNWIND [1] AS`x` RETURN 1"));
+  EXPECT_FALSE(accepts("CALL p() YIELD `x`AS y"));
+  EXPECT_FALSE(accepts("CALL p() YIELD x AS`y`"));
+  EXPECT_FALSE(accepts("RETURN (1)ORDER BY 1"));
+  EXPECT_FALSE(accepts("RETURN 1 ORDER BY(1)"));
+  EXPECT_FALSE(accepts("RETURN (1)SKIP 1"));
+  EXPECT_TRUE(accepts("CALL `p`()YIELD `x` AS `y`"));
+  EXPECT_TRUE(accepts("RETURN (1) ORDER BY (1) SKIP (1) LIMIT (1)"));
+}
+
+TEST(Lists, AdmitWhiteSpaceOnBothSidesOfTheirCommas) {
+  for (const char* comma : {",", " ,", ", ", "/**/,\n"}) {
+    const std::string c = comma;
+    EXPECT_TRUE(accepts("MATCH (n)" + c + "(m) RETURN n" + c + "m")) << c;
+    EXPECT_TRUE(accepts("MATCH (n) RETURN *" + c + "n.x" + c + "n.y")) << c;
+    EXPECT_TRUE(accepts("CREATE (n)" + c + "(m) SET n.x = 1" + c + "m.x = 2")) << c;
+    EXPECT_TRUE(accepts("MATCH (n)--(m) DELETE n" + c + "m")) << c;
+    EXPECT_TRUE(accepts("MATCH (n)--(m) REMOVE n.x" + c + "m:L")) << c;
+    EXPECT_TRUE(accepts("CALL p(1" + c + "2) YIELD x" + c + "y RETURN x")) << c;
+    EXPECT_TRUE(accepts("RETURN f(1" + c + "2)" + c + "[1" + c + "2]" + c + "{k: 1" + c + "l: 2}"))
+        << c;
+  }
+}
+
+TEST(Order, HoldsASortItemForEachComma) {
+  const ParsedText tree = ParsedText::ofQuery("MATCH (n) RETURN n ORDER BY n.x DESC, n.y,n.z asc");
+  EXPECT_EQ(tree.texts<CypherParser::OC_SortItemContext>(),
+            (std::vector<std::string>{"n.x DESC", "n.y", "n.z asc"}));
+}
+
+TEST(Set, TellsItsFourFormsApart) {
+  const ParsedText tree =
+      ParsedText::ofQuery("MATCH (n) SET n.x = 1, n = $p, n += $p, n :L, f(n).x.y = 2");
+  const auto items = tree.all<CypherParser::OC_SetItemContext>();
+  ASSERT_EQ(items.size(), 5U);
+  EXPECT_NE(items[0]->oC_PropertyExpression(), nullptr);
+  EXPECT_EQ(items[0]->oC_Variable(), nullptr);
+  EXPECT_NE(items[1]->oC_Variable(), nullptr);
+  EXPECT_NE(items[1]->oC_Expression(), nullptr);
+  EXPECT_NE(items[2]->oC_Variable(), nullptr);
+  EXPECT_NE(items[2]->oC_Expression(), nullptr);
+  EXPECT_NE(items[3]->oC_NodeLabels(), nullptr);
+  EXPECT_NE(items[4]->oC_PropertyExpression(), nullptr);
+}
+
+TEST(Remove, TakesLabelsOrAProperty) {
+  const ParsedText tree = ParsedText::ofQuery("MATCH (n) REMOVE n:A:B, n.x.y");
+  const auto items = tree.all<CypherParser::OC_RemoveItemContext>();
+  ASSERT_EQ(items.size(), 2U);
+  EXPECT_NE(items[0]->oC_NodeLabels(), nullptr);
+  EXPECT_NE(items[1]->oC_PropertyExpression(), nullptr);
+  EXPECT_FALSE(accepts("MATCH (n) REMOVE n"));
+}
+
+TEST(Merge, KnowsWhatItsActionsAreFor) {
+  const ParsedText tree =
+      ParsedText::ofQuery("MERGE (n) ON CREATE SET n.x = 1 ON MATCH SET n.y = 2");
+  const auto actions = tree.all<CypherParser::OC_MergeActionContext>();
+  ASSERT_EQ(actions.size(), 2U);
+  EXPECT_NE(actions[0]->CREATE(), nullptr);
+  EXPECT_NE(actions[1]->MATCH(), nullptr);
+}
+
+TEST(Call, IsTheWholeStatementUnlessAClauseFollows) {
+  const ParsedText alone = ParsedText::ofQuery("CALL p() YIELD x WHERE x > 1");
+  EXPECT_EQ(alone.count<CypherParser::OC_StandaloneCallContext>(), 1U);
+  EXPECT_EQ(alone.count<CypherParser::OC_InQueryCallContext>(), 0U);
+  const ParsedText inside = ParsedText::ofQuery("CALL p() YIELD x WHERE x > 1 RETURN x");
+  EXPECT_EQ(inside.count<CypherParser::OC_StandaloneCallContext>(), 0U);
+  EXPECT_EQ(inside.count<CypherParser::OC_InQueryCallContext>(), 1U);
+  EXPECT_EQ(inside.count<CypherParser::OC_WhereContext>(), 1U);
+}
+
+TEST(Call, WithoutArgumentsIsImplicit) {
+  EXPECT_EQ(
+      ParsedText::ofQuery("CALL p").count<CypherParser::OC_ImplicitProcedureInvocationContext>(),
+      1U);
+  EXPECT_EQ(
+      ParsedText::ofQuery("CALL p()").count<CypherParser::OC_ExplicitProcedureInvocationContext>(),
+      1U);
+}
+
+TEST(Call, RenamesAResultFieldWithAs) {
+  const ParsedText tree = ParsedText::ofQuery("CALL p() YIELD x AS y, z");
+  EXPECT_EQ(tree.texts<CypherParser::OC_ProcedureResultFieldContext>(),
+            std::vector<std::string>{"x"});
+  EXPECT_EQ(tree.texts<CypherParser::OC_VariableContext>(), (std::vector<std::string>{"y", "z"}));
+}
+
+TEST(Call, YieldsAStarOnItsOwn) {
+  EXPECT_FALSE(accepts("CALL p() YIELD *, x"));
+  EXPECT_FALSE(accepts("CALL p() YIELD * WHERE x"));
+  EXPECT_FALSE(accepts("CALL p YIELD"));
 }
 
 }  // namespace

@@ -210,4 +210,192 @@ TEST(StartRule, OfAnExpressionLeavesTheRestOfTheText) {
       Texts{"n.a = 1"});
 }
 
+TEST(Atoms, OfAWholeQueryAreTakenForTheEarlierAlternativeToo) {
+  const ParsedText path = ParsedText::ofQuery("RETURN (a)-[b]-(c)");
+  EXPECT_EQ(path.texts<CypherParser::OC_PatternPredicateContext>(), Texts{"(a)-[b]-(c)"});
+  EXPECT_EQ(path.count<CypherParser::OC_ParenthesizedExpressionContext>(), 0U);
+  EXPECT_EQ(path.count<CypherParser::OC_ListLiteralContext>(), 0U);
+  const ParsedText difference = ParsedText::ofQuery("RETURN (a)-[b]");
+  EXPECT_EQ(difference.count<CypherParser::OC_PatternPredicateContext>(), 0U);
+  EXPECT_EQ(difference.texts<CypherParser::OC_MultiplyDivideModuloExpressionContext>(),
+            (Texts{"(a)", "a", "[b]", "b"}));
+  const ParsedText node = ParsedText::ofQuery("RETURN (n)");
+  EXPECT_EQ(node.texts<CypherParser::OC_ParenthesizedExpressionContext>(), Texts{"(n)"});
+  const ParsedText membership = ParsedText::ofQuery("RETURN [x IN xs]");
+  EXPECT_EQ(membership.count<CypherParser::OC_ListLiteralContext>(), 1U);
+  EXPECT_EQ(membership.count<CypherParser::OC_ListComprehensionContext>(), 0U);
+  const ParsedText comprehension = ParsedText::ofQuery("RETURN [x IN xs | y]");
+  EXPECT_EQ(comprehension.count<CypherParser::OC_ListComprehensionContext>(), 1U);
+  EXPECT_EQ(comprehension.count<CypherParser::OC_ListLiteralContext>(), 0U);
+  const ParsedText map = ParsedText::ofQuery("RETURN {}");
+  EXPECT_EQ(map.texts<CypherParser::OC_MapLiteralContext>(), Texts{"{}"});
+}
+
+TEST(Atoms, MayBeAParenthesisedNodeWithALabel) {
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_ParenthesizedExpressionContext>("(n:L)"));
+  EXPECT_TRUE(isTakenFor<CypherParser::OC_PatternPredicateContext>("(n:L {k: 1})<--()"));
+  EXPECT_FALSE(acceptsExpression("()"));
+}
+
+TEST(Comparisons, BindLooserThanPredicatesAndTighterThanNot) {
+  const ParsedText tree = ParsedText::ofExpression("NOT 1 + 2 IN xs = g");
+  EXPECT_EQ(tree.texts<CypherParser::OC_NotExpressionContext>(), Texts{"NOT 1 + 2 IN xs = g"});
+  EXPECT_EQ(tree.texts<CypherParser::OC_ComparisonExpressionContext>(), Texts{"1 + 2 IN xs = g"});
+  EXPECT_EQ(tree.texts<CypherParser::OC_StringListNullPredicateExpressionContext>(),
+            (Texts{"1 + 2 IN xs", "g"}));
+  EXPECT_EQ(tree.texts<CypherParser::OC_AddOrSubtractExpressionContext>(),
+            (Texts{"1 + 2", "xs", "g"}));
+}
+
+TEST(Comparisons, ChainInAWholeQueryToo) {
+  const ParsedText tree = ParsedText::ofQuery("RETURN 1 < 2 <= 3 <> 4");
+  EXPECT_EQ(tree.count<CypherParser::OC_ComparisonExpressionContext>(), 1U);
+  EXPECT_EQ(tree.texts<CypherParser::OC_PartialComparisonExpressionContext>(),
+            (Texts{"< 2", "<= 3", "<> 4"}));
+}
+
+TEST(Predicates, AreAcceptedInAnyOrder) {
+  EXPECT_TRUE(acceptsExpression("n.x STARTS WITH 'a' IS NOT NULL"));
+  EXPECT_TRUE(acceptsExpression("n.x IS NOT NULL STARTS WITH 'a'"));
+  EXPECT_FALSE(acceptsExpression("n.x IS NOTNULL"));
+  EXPECT_FALSE(acceptsExpression("n.x STARTSWITH 'a'"));
+  EXPECT_FALSE(acceptsExpression("(n)ENDS WITH 'a'"));
+  EXPECT_TRUE(acceptsExpression("(n) ENDS WITH'a'"));
+}
+
+TEST(BooleanOperators, AreFlatLists) {
+  const ParsedText tree = ParsedText::ofExpression("g AND h AND i OR j OR k XOR l XOR m");
+  EXPECT_EQ(tree.count<CypherParser::OC_OrExpressionContext>(), 1U);
+  EXPECT_EQ(tree.texts<CypherParser::OC_XorExpressionContext>(),
+            (Texts{"g AND h AND i", "j", "k XOR l XOR m"}));
+  EXPECT_EQ(tree.texts<CypherParser::OC_AndExpressionContext>(),
+            (Texts{"g AND h AND i", "j", "k", "l", "m"}));
+}
+
+TEST(Arithmetic, KeepsOperandsAndOperatorsInTextOrder) {
+  const ParsedText tree = ParsedText::ofExpression("1*2/3%4");
+  Texts children;
+  for (auto* child :
+       tree.all<CypherParser::OC_MultiplyDivideModuloExpressionContext>().front()->children) {
+    children.push_back(child->getText());
+  }
+  EXPECT_EQ(children, (Texts{"1", "*", "2", "/", "3", "%", "4"}));
+  EXPECT_EQ(ParsedText::ofExpression("2 ^ 3^4")
+                .texts<CypherParser::OC_UnaryAddOrSubtractExpressionContext>(),
+            (Texts{"2", "3", "4"}));
+}
+
+TEST(Signs, BindLooserThanBracketsAndProperties) {
+  const ParsedText tree = ParsedText::ofExpression("-n.xs[0][1..]");
+  EXPECT_EQ(tree.texts<CypherParser::OC_ListOperatorExpressionContext>(),
+            (Texts{"n.xs[0][1..]", "0", "1"}));
+  EXPECT_EQ(tree.all<CypherParser::OC_PropertyOrLabelsExpressionContext>().front()->getText(),
+            "n.xs");
+}
+
+TEST(Signs, AreNoPartOfANumber) {
+  const ParsedText tree = ParsedText::ofExpression("-1");
+  EXPECT_EQ(tree.texts<CypherParser::OC_NumberLiteralContext>(), Texts{"1"});
+  EXPECT_TRUE(acceptsExpression("2^-1"));
+  EXPECT_TRUE(acceptsExpression("1 +-1"));
+}
+
+TEST(Properties, AndLabelsAreChildrenOfTheirAtom) {
+  const ParsedText tree = ParsedText::ofExpression("n.g .h:L :M");
+  EXPECT_EQ(tree.texts<CypherParser::OC_PropertyKeyNameContext>(), (Texts{"g", "h"}));
+  EXPECT_EQ(tree.texts<CypherParser::OC_LabelNameContext>(), (Texts{"L", "M"}));
+  EXPECT_EQ(tree.texts<CypherParser::OC_NodeLabelsContext>(), Texts{":L :M"});
+}
+
+TEST(ExistentialSubqueries, HoldAQueryOrAPattern) {
+  const ParsedText pattern = ParsedText::ofExpression("EXISTS { (n)-->(m), (m) WHERE n.x }");
+  auto* first = pattern.all<CypherParser::OC_ExistentialSubqueryContext>().front();
+  EXPECT_EQ(first->oC_RegularQuery(), nullptr);
+  EXPECT_EQ(first->oC_Pattern()->getText(), "(n)-->(m), (m)");
+  EXPECT_EQ(first->oC_Where()->getText(), "WHERE n.x");
+  const ParsedText query = ParsedText::ofExpression("EXISTS { MATCH (n) RETURN n }");
+  auto* second = query.all<CypherParser::OC_ExistentialSubqueryContext>().front();
+  EXPECT_EQ(second->oC_RegularQuery()->getText(), "MATCH (n) RETURN n");
+  EXPECT_EQ(second->oC_Pattern(), nullptr);
+}
+
+TEST(ExistentialSubqueries, HoldNoStandaloneCallAndNoFilterWithoutAPattern) {
+  EXPECT_FALSE(acceptsExpression("EXISTS { CALL p }"));
+  EXPECT_FALSE(acceptsExpression("EXISTS { WHERE n.x }"));
+  EXPECT_FALSE(acceptsExpression("EXISTS"));
+}
+
+TEST(Quantifiers, WithoutAListAreFunctionsUnlessOfAll) {
+  for (const char* text : {"any(x)", "none(x)", "single(x)"}) {
+    EXPECT_TRUE(isTakenFor<CypherParser::OC_FunctionInvocationContext>(text)) << text;
+  }
+  for (const char* text :
+       {"all(x IN xs)", "any(x IN xs WHERE x)", "none (x IN xs)", "single( x IN xs )"}) {
+    EXPECT_TRUE(isTakenFor<CypherParser::OC_QuantifierContext>(text)) << text;
+  }
+}
+
+TEST(FilterExpressions, AreAVariableAListAndPerhapsACondition) {
+  const ParsedText tree = ParsedText::ofExpression("all(x IN n.xs WHERE x > 1)");
+  EXPECT_EQ(tree.texts<CypherParser::OC_IdInCollContext>(), Texts{"x IN n.xs"});
+  EXPECT_EQ(tree.texts<CypherParser::OC_WhereContext>(), Texts{"WHERE x > 1"});
+  EXPECT_TRUE(acceptsExpression("[x IN [1]WHERE (x)|(x)]"));
+  EXPECT_FALSE(acceptsExpression("all(`x`IN xs)"));
+  EXPECT_FALSE(acceptsExpression("all(n.x IN xs)"));
+}
+
+TEST(Case, HasATestOnlyInItsSimpleForm) {
+  const ParsedText generic = ParsedText::ofExpression("CASE WHEN 1 THEN 2 ELSE 3 END");
+  auto* first = generic.all<CypherParser::OC_CaseExpressionContext>().front();
+  EXPECT_EQ(first->oC_Expression().size(), 1U);
+  EXPECT_NE(first->ELSE(), nullptr);
+  const ParsedText simple = ParsedText::ofExpression("CASE n WHEN 1 THEN 2 WHEN 3 THEN 4 END");
+  auto* second = simple.all<CypherParser::OC_CaseExpressionContext>().front();
+  EXPECT_EQ(second->oC_Expression().size(), 1U);
+  EXPECT_EQ(second->ELSE(), nullptr);
+  EXPECT_EQ(second->oC_CaseAlternative().size(), 2U);
+}
+
+TEST(PatternComprehensions, MayNameTheirPathAndFilter) {
+  const ParsedText tree = ParsedText::ofExpression("[ p = (a)--(b)WHERE g | p ]");
+  auto* comprehension = tree.all<CypherParser::OC_PatternComprehensionContext>().front();
+  EXPECT_EQ(comprehension->oC_Variable()->getText(), "p");
+  EXPECT_EQ(comprehension->oC_RelationshipsPattern()->getText(), "(a)--(b)");
+  EXPECT_EQ(comprehension->oC_Where()->getText(), "WHERE g");
+  EXPECT_EQ(comprehension->oC_Expression()->getText(), "p");
+  EXPECT_FALSE(acceptsExpression("[p = (a)--(b) WHERE a.x]"));
+}
+
+TEST(Functions, MayBeQualifiedAndDistinct) {
+  const ParsedText tree = ParsedText::ofExpression("lib.sub.f(DISTINCT 1, 2)");
+  auto* invocation = tree.all<CypherParser::OC_FunctionInvocationContext>().front();
+  EXPECT_EQ(invocation->oC_FunctionName()->oC_Namespace()->getText(), "lib.sub.");
+  EXPECT_EQ(invocation->oC_FunctionName()->oC_SymbolicName()->getText(), "f");
+  EXPECT_NE(invocation->DISTINCT(), nullptr);
+  EXPECT_EQ(invocation->oC_Expression().size(), 2U);
+}
+
+TEST(Parameters, AreNamedOrNumbered) {
+  const ParsedText tree = ParsedText::ofExpression("$1 + $g + $`1`");
+  const auto parameters = tree.all<CypherParser::OC_ParameterContext>();
+  ASSERT_EQ(parameters.size(), 3U);
+  EXPECT_NE(parameters[0]->DecimalInteger(), nullptr);
+  EXPECT_EQ(parameters[1]->oC_SymbolicName()->getText(), "g");
+  EXPECT_EQ(parameters[2]->oC_SymbolicName()->getText(), "`1`");
+  EXPECT_FALSE(acceptsExpression("$01"));
+  EXPECT_FALSE(acceptsExpression("$1.5"));
+  EXPECT_FALSE(acceptsExpression("$/**/x"));
+}
+
+TEST(Literals, OfNumbersAreRealOrInteger) {
+  for (const char* text : {"1.5", ".5", "1e3", "1.5E-3"}) {
+    EXPECT_EQ(ParsedText::ofExpression(text).texts<CypherParser::OC_DoubleLiteralContext>(),
+              Texts{text});
+  }
+  for (const char* text : {"0", "15", "0x1F", "0o17"}) {
+    EXPECT_EQ(ParsedText::ofExpression(text).texts<CypherParser::OC_IntegerLiteralContext>(),
+              Texts{text});
+  }
+}
+
 }  // namespace

@@ -6,28 +6,19 @@
 #include <cctype>
 #include <iterator>
 
-#include "support/Pipeline.h"
+#include "support/Tokens.h"
 
 namespace {
 
 using Lexer = vorn::CypherLexer;
 using Types = std::vector<std::size_t>;
+using Texts = std::vector<std::string>;
 
-Types types(std::string_view text) { return Pipeline(text).types(); }
+Types types(std::string_view text) { return tokenTypes(text); }
 
-std::size_t only(std::string_view text) {
-  const Types all = types(text);
-  return all.size() == 1 ? all.front() : 0;
-}
+std::size_t only(std::string_view text) { return onlyTokenType(text); }
 
-bool isRefused(std::string_view text) {
-  try {
-    types(text);
-    return false;
-  } catch (const antlr4::ParseCancellationException&) {
-    return true;
-  }
-}
+bool isRefused(std::string_view text) { return lexerRefuses(text); }
 
 std::string utf8Of(char32_t codePoint) {
   std::string text;
@@ -74,6 +65,47 @@ TEST(Keywords, TakeAsciiLettersOnly) {
   EXPECT_EQ(only("\u017Fet"), Lexer::UnescapedSymbolicName);
 }
 
+std::vector<std::pair<std::size_t, std::string>> keywords() {
+  std::vector<std::pair<std::size_t, std::string>> words;
+  const Pipeline pipeline("");
+  for (std::size_t type = Lexer::UNION; type <= Lexer::EXTRACT; ++type) {
+    if (type <= Lexer::FALSE || type >= Lexer::CONSTRAINT) {
+      const std::string symbol(pipeline.lexer.getVocabulary().getSymbolicName(type));
+      words.emplace_back(type, type == Lexer::L_SKIP ? "SKIP" : symbol);
+    }
+  }
+  return words;
+}
+
+std::string inDrawnCase(std::string word) {
+  for (char& c : word) {
+    c = static_cast<char>(*rc::gen::arbitrary<bool>() ? std::tolower(c) : std::toupper(c));
+  }
+  return word;
+}
+
+// Each run tries all keywords: drawing one would leave most mixtures of most of them out.
+RC_GTEST_PROP(Keywords, InAnyMixtureOfCasesAreTheKeyword, ()) {
+  for (const auto& keyword : keywords()) {
+    const std::string word = inDrawnCase(keyword.second);
+    RC_LOG() << word << '\n';
+    RC_ASSERT(only(word) == keyword.first);
+  }
+}
+
+RC_GTEST_PROP(Keywords, WithACharacterOfANameBeforeOrBehindAreNames, ()) {
+  const auto before =
+      *rc::gen::element<std::string>("_", "q", "Q", "é", "\u203F", "名", "\U00020BB7");
+  const auto behind = *rc::gen::element<std::string>("9", "_", "q", "Q", "$", "é", "€", "\u0301",
+                                                     "\u203F", "名", "\U00020BB7", "\U000E0100");
+  for (const auto& keyword : keywords()) {
+    const std::string word = inDrawnCase(keyword.second);
+    RC_LOG() << word << '\n';
+    RC_ASSERT(only(before + word) == Lexer::UnescapedSymbolicName);
+    RC_ASSERT(only(word + behind) == Lexer::UnescapedSymbolicName);
+  }
+}
+
 TEST(Names, OfOneLetterFromAToFAreHexLetters) {
   for (const char letter : std::string("ABCDEFabcdef")) {
     EXPECT_EQ(only(std::string(1, letter)), Lexer::HexLetter);
@@ -102,6 +134,7 @@ TEST(Names, BetweenBackQuotesAreOneTokenWithAllBackQuotes) {
   EXPECT_TRUE(isRefused("`a"));
   EXPECT_EQ(only("`a```"), Lexer::EscapedSymbolicName);
   EXPECT_TRUE(isRefused("`a``"));
+  EXPECT_TRUE(isRefused("`"));
 }
 
 struct SetSize {
@@ -191,6 +224,17 @@ TEST(Numbers, TakeALowerCaseXAndO) {
   EXPECT_EQ(types("0o18"), (Types{Lexer::OctalInteger, Lexer::DecimalInteger}));
 }
 
+TEST(Numbers, LeaveToTheNextTokenWhatDoesNotFit) {
+  EXPECT_EQ(tokenTexts("0X1F"), (Texts{"0", "X1F"}));
+  EXPECT_EQ(tokenTexts("017"), (Texts{"0", "17"}));
+  EXPECT_EQ(tokenTexts("1..5"), (Texts{"1", "..", "5"}));
+  EXPECT_EQ(tokenTexts("1e+3"), (Texts{"1", "e", "+", "3"}));
+  EXPECT_EQ(tokenTexts("1...5"), (Texts{"1", "..", ".5"}));
+  EXPECT_EQ(tokenTexts("1.5.5"), (Texts{"1.5", ".5"}));
+  EXPECT_EQ(tokenTexts("0x"), (Texts{"0", "x"}));
+  EXPECT_EQ(tokenTexts("12ab"), (Texts{"12", "ab"}));
+}
+
 TEST(Numbers, EndBehindALeadingZero) {
   EXPECT_EQ(types("017"), (Types{Lexer::DecimalInteger, Lexer::DecimalInteger}));
   EXPECT_EQ(only("0"), Lexer::DecimalInteger);
@@ -241,6 +285,25 @@ TEST(Strings, HoldThirteenEscapesAndTwoKindsOfCodePoints) {
   }
 }
 
+// Without a listener that throws, the lexer leaves out what it cannot read and goes on behind it.
+TEST(Strings, WithAWrongEscapeAreReportedUpToItAndReadOnBehindIt) {
+  struct Collector : antlr4::BaseErrorListener {
+    void syntaxError(antlr4::Recognizer* /*recognizer*/, antlr4::Token* /*symbol*/,
+                     std::size_t /*line*/, std::size_t /*position*/, const std::string& message,
+                     std::exception_ptr /*exception*/) override {
+      messages.push_back(message);
+    }
+    Texts messages;
+  };
+  Pipeline pipeline(R"('ab\xyz 1)");
+  Collector collector;
+  pipeline.lexer.removeErrorListeners();
+  pipeline.lexer.addErrorListener(&collector);
+  EXPECT_EQ(pipeline.types(),
+            (Types{Lexer::UnescapedSymbolicName, Lexer::SP, Lexer::DecimalInteger}));
+  EXPECT_EQ(collector.messages, Texts{R"(token recognition error at: ''ab\x')"});
+}
+
 TEST(Strings, ThatAreNotClosedAreErrors) {
   EXPECT_TRUE(isRefused("'abc"));
   EXPECT_TRUE(isRefused("\"abc'"));
@@ -250,6 +313,21 @@ TEST(Backslashes, OutsideAStringAreErrorsUnlessTheyBeginAnEscape) {
   EXPECT_TRUE(isRefused("\\"));
   EXPECT_TRUE(isRefused("\\x"));
   EXPECT_EQ(only("\\n"), Lexer::EscapedChar);
+}
+
+TEST(WhiteSpace, HasTwentyNineCharacters) {
+  std::u32string found;
+  for (char32_t codePoint = 1; codePoint <= 0xFFFF; ++codePoint) {
+    if (codePoint < 0xD800 || codePoint > 0xDFFF) {
+      const std::string text = utf8Of(codePoint);
+      if (!isRefused(text) && only(text) == Lexer::SP) {
+        found += codePoint;
+      }
+    }
+  }
+  EXPECT_EQ(found,
+            U"\t\n\v\f\r\x1C\x1D\x1E\x1F \u00A0\u1680\u180E\u2000\u2001\u2002\u2003\u2004\u2005"
+            U"\u2006\u2007\u2008\u2009\u200A\u2028\u2029\u202F\u205F\u3000");
 }
 
 TEST(WhiteSpace, OfAnyKindAndCommentsAreOneToken) {

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iterator>
 #include <regex>
+#include <type_traits>
 
 #include "CypherBaseListener.h"
 #include "support/Pipeline.h"
@@ -38,8 +39,78 @@ TEST(ListenerInterface, HasAnEnterAndAnExitForEachRuleInRuleOrder) {
   EXPECT_EQ(declaredOperations(), expected);
 }
 
-// Together with the 208 above: destructor, visitTerminal, visitErrorNode, enterEveryRule,
-// exitEveryRule.
+// The operations differ in their names, which only a macro can put together.
+// NOLINTBEGIN(cppcoreguidelines-macro-usage)
+
+// A pointer to a member function is of the class that declares it. So these compile only if each
+// operation is declared anew, the listener's for the rules and the base listener's for all.
+#define RULE(Name)                                                                              \
+  static_assert(                                                                                \
+      std::is_same_v<decltype(&vorn::CypherListener::enterOC_##Name),                           \
+                     void (vorn::CypherListener::*)(vorn::CypherParser::OC_##Name##Context*)>); \
+  static_assert(                                                                                \
+      std::is_same_v<decltype(&vorn::CypherListener::exitOC_##Name),                            \
+                     void (vorn::CypherListener::*)(vorn::CypherParser::OC_##Name##Context*)>); \
+  static_assert(std::is_same_v<decltype(&vorn::CypherBaseListener::enterOC_##Name),             \
+                               void (vorn::CypherBaseListener::*)(                              \
+                                   vorn::CypherParser::OC_##Name##Context*)>);                  \
+  static_assert(std::is_same_v<decltype(&vorn::CypherBaseListener::exitOC_##Name),              \
+                               void (vorn::CypherBaseListener::*)(                              \
+                                   vorn::CypherParser::OC_##Name##Context*)>);
+#include "Rules.inc"
+#undef RULE
+static_assert(std::is_same_v<decltype(&vorn::CypherBaseListener::visitTerminal),
+                             void (vorn::CypherBaseListener::*)(antlr4::tree::TerminalNode*)>);
+static_assert(std::is_same_v<decltype(&vorn::CypherBaseListener::visitErrorNode),
+                             void (vorn::CypherBaseListener::*)(antlr4::tree::ErrorNode*)>);
+static_assert(std::is_same_v<decltype(&vorn::CypherBaseListener::enterEveryRule),
+                             void (vorn::CypherBaseListener::*)(antlr4::ParserRuleContext*)>);
+static_assert(std::is_same_v<decltype(&vorn::CypherBaseListener::exitEveryRule),
+                             void (vorn::CypherBaseListener::*)(antlr4::ParserRuleContext*)>);
+
+// Notes the operations of the rules as they are called.
+class RuleRecorder : public vorn::CypherBaseListener {
+ public:
+#define RULE(Name)                                                                \
+  void enterOC_##Name(vorn::CypherParser::OC_##Name##Context* /*ctx*/) override { \
+    events.emplace_back("enterOC_" #Name);                                        \
+  }                                                                               \
+  void exitOC_##Name(vorn::CypherParser::OC_##Name##Context* /*ctx*/) override {  \
+    events.emplace_back("exitOC_" #Name);                                         \
+  }
+#include "Rules.inc"
+#undef RULE
+
+  Names events;
+};
+
+template <typename Context>
+void enterAndExit(antlr4::tree::ParseTreeListener& listener, std::size_t ruleIndex) {
+  Context context(nullptr, 0);
+  EXPECT_EQ(context.getRuleIndex(), ruleIndex);
+  context.enterRule(&listener);
+  context.exitRule(&listener);
+}
+
+TEST(ListenerInterface, IsCalledByTheContextOfEachRuleForThisRuleOnly) {
+  RuleRecorder recorder;
+  std::size_t ruleIndex = 0;
+#define RULE(Name) enterAndExit<vorn::CypherParser::OC_##Name##Context>(recorder, ruleIndex++);
+#include "Rules.inc"
+#undef RULE
+  const Pipeline pipeline("");
+  Names expected;
+  for (std::string rule : pipeline.parser.getRuleNames()) {
+    rule.front() = 'O';
+    expected.push_back("enter" + rule);
+    expected.push_back("exit" + rule);
+  }
+  EXPECT_EQ(ruleIndex, 104U);
+  EXPECT_EQ(recorder.events, expected);
+}
+
+// NOLINTEND(cppcoreguidelines-macro-usage)
+
 TEST(ListenerInterface, OfTheBaseListenerIsWhollyEmpty) {
   static_assert(!std::is_abstract_v<vorn::CypherBaseListener>);
   static_assert(std::is_base_of_v<antlr4::tree::ParseTreeListener, vorn::CypherListener>);

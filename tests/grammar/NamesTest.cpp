@@ -38,6 +38,20 @@ TEST(ReservedWords, AreNoNamesOfVariablesFunctionsAndParameters) {
   }
 }
 
+TEST(ReservedWords, AreNoNamesInANamespaceOrOfAResultField) {
+  for (const std::string& word : reservedWords) {
+    EXPECT_FALSE(acceptsExpression("f." + word + "(1)")) << word;
+    EXPECT_FALSE(acceptsExpression(word + ".f(1)")) << word;
+    EXPECT_FALSE(accepts("CALL " + word + ".p() RETURN 1")) << word;
+    EXPECT_FALSE(accepts("CALL p() YIELD " + word + " AS x RETURN 1")) << word;
+  }
+}
+
+TEST(ReservedWords, AreNamesInAnyCase) {
+  EXPECT_TRUE(acceptsExpression("n.mAtCh"));
+  EXPECT_FALSE(accepts("RETURN 1 AS mAtCh"));
+}
+
 TEST(ReservedWords, AreNamesOfVariablesBetweenBackQuotes) {
   for (const std::string& word : reservedWords) {
     EXPECT_TRUE(accepts("MATCH (`" + word + "`) RETURN `" + word + "`")) << word;
@@ -51,6 +65,19 @@ TEST(CallYieldAndShortestPaths, AreNoNamesAtAll) {
     EXPECT_FALSE(accepts("MATCH (n:" + word + ") RETURN n")) << word;
     EXPECT_FALSE(accepts("MATCH ()-[r:" + word + "]-() RETURN r")) << word;
     EXPECT_FALSE(accepts("RETURN 1 AS " + word)) << word;
+    EXPECT_FALSE(accepts("MATCH (" + word + ") RETURN 1")) << word;
+    EXPECT_FALSE(accepts("CALL " + word + "() RETURN 1")) << word;
+    EXPECT_FALSE(accepts("CALL p() YIELD " + word + " AS x RETURN 1")) << word;
+    EXPECT_FALSE(acceptsExpression("$" + word)) << word;
+    EXPECT_FALSE(acceptsExpression(word + "(1)")) << word;
+    EXPECT_FALSE(acceptsExpression("f." + word + "(1)")) << word;
+  }
+}
+
+TEST(CallYieldAndShortestPaths, AreNamesBetweenBackQuotes) {
+  for (const std::string& word : wordsThatAreNoNames) {
+    EXPECT_TRUE(accepts("MATCH (`" + word + "`:`" + word + "` {`" + word + "`: 1}) RETURN 1"))
+        << word;
   }
 }
 

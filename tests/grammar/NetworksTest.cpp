@@ -69,6 +69,30 @@ TEST(ParserNetwork, HasTheSizeOfTheGrammar) {
   EXPECT_EQ(SerializedNetwork(pipeline.parser.getSerializedATN()).getSets(), 10);
 }
 
+// What the parse depends on is the text alone: no code of a rule and no precedence has a say.
+TEST(ParserNetwork, HasNoPredicatesActionsOrLeftRecursion) {
+  const Pipeline pipeline("");
+  for (const antlr4::atn::ATNState* state : pipeline.parser.getATN().states) {
+    for (const auto& transition : state->transitions) {
+      EXPECT_NE(transition->getTransitionType(), antlr4::atn::TransitionType::PREDICATE);
+      EXPECT_NE(transition->getTransitionType(), antlr4::atn::TransitionType::PRECEDENCE);
+      EXPECT_NE(transition->getTransitionType(), antlr4::atn::TransitionType::ACTION);
+    }
+  }
+  for (const antlr4::atn::RuleStartState* start : pipeline.parser.getATN().ruleToStartState) {
+    EXPECT_FALSE(start->isLeftRecursiveRule);
+  }
+}
+
+TEST(Networks, HaveNoNonGreedyDecisions) {
+  const Pipeline pipeline("");
+  for (const antlr4::atn::ATN* atn : {&pipeline.lexer.getATN(), &pipeline.parser.getATN()}) {
+    for (const antlr4::atn::DecisionState* decision : atn->decisionToState) {
+      EXPECT_FALSE(decision->nonGreedy);
+    }
+  }
+}
+
 TEST(Networks, AreBuiltOnceAndShared) {
   const Pipeline one("");
   const Pipeline other("RETURN 1");

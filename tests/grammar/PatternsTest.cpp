@@ -115,4 +115,77 @@ TEST(PatternParts, MayNameTheirPath) {
   EXPECT_FALSE(acceptsPattern("p.q = (n)"));
 }
 
+TEST(RelationshipPatterns, TakeADifferentDashOnEachSide) {
+  for (const char* dash : {"\u00AD", "\u2010", "\u2011", "\u2012", "\u2013", "\u2014", "\u2015",
+                           "\u2212", "\uFE58", "\uFE63", "\uFF0D"}) {
+    EXPECT_TRUE(acceptsPattern(std::string("(a)-[r]") + dash + "(b)")) << dash;
+    EXPECT_FALSE(acceptsExpression(dash + std::string("1"))) << dash;
+  }
+  EXPECT_TRUE(acceptsPattern("(a)\uFF1C\u2212[r]\uFE63\u27E9(b)"));
+  EXPECT_TRUE(acceptsExpression("(a)—[r]—＞(b)"));
+}
+
+TEST(RelationshipPatterns, KeepTheirSymbolsApartInTheTree) {
+  const ParsedText tree = ParsedText::ofQuery("MATCH (a)<-[r]—＞(b) RETURN 1");
+  EXPECT_EQ(tree.texts<CypherParser::OC_LeftArrowHeadContext>(), std::vector<std::string>{"<"});
+  EXPECT_EQ(tree.texts<CypherParser::OC_DashContext>(), (std::vector<std::string>{"-", "—"}));
+  EXPECT_EQ(tree.texts<CypherParser::OC_RightArrowHeadContext>(), std::vector<std::string>{"＞"});
+}
+
+// The token for less-or-equal or for two full stops would swallow the symbol.
+TEST(RelationshipPatterns, AreNotReadAcrossLongerTokens) {
+  EXPECT_FALSE(acceptsPattern("(a)<>(b)"));
+  EXPECT_FALSE(acceptsPattern("(a)<=-(b)"));
+}
+
+TEST(PatternElements, ChainRelationshipsAndNodes) {
+  const ParsedText tree = ParsedText::ofQuery("MATCH (a)-->(b) <-- (c)--(d) RETURN 1");
+  const auto elements = tree.all<CypherParser::OC_PatternElementContext>();
+  ASSERT_EQ(elements.size(), 1U);
+  EXPECT_EQ(elements.front()->oC_NodePattern()->getText(), "(a)");
+  EXPECT_EQ(tree.texts<CypherParser::OC_PatternElementChainContext>(),
+            (std::vector<std::string>{"-->(b)", "<-- (c)", "--(d)"}));
+}
+
+TEST(PatternElements, InParenthesesNestInTheTree) {
+  const ParsedText tree = ParsedText::ofQuery("MATCH ((n)-->(m)) RETURN 1");
+  EXPECT_EQ(tree.texts<CypherParser::OC_PatternElementContext>(),
+            (std::vector<std::string>{"((n)-->(m))", "(n)-->(m)"}));
+}
+
+TEST(RelationshipDetails, KeepTheWhiteSpaceBehindARangeInTheRange) {
+  const ParsedText tree = ParsedText::ofQuery("MATCH ()-[r:A|:B * 1 .. 2 {k: 1}]-() RETURN 1");
+  EXPECT_EQ(tree.texts<CypherParser::OC_RangeLiteralContext>(),
+            std::vector<std::string>{"* 1 .. 2 "});
+  EXPECT_EQ(tree.texts<CypherParser::OC_RelTypeNameContext>(),
+            (std::vector<std::string>{"A", "B"}));
+}
+
+TEST(RelationshipDetails, HaveBoundsOfAnyIntegerForm) {
+  EXPECT_TRUE(acceptsPattern("()-[*0x1..0o7]-()"));
+  EXPECT_FALSE(acceptsPattern("()-[*1...2]-()"));
+}
+
+TEST(RelationshipDetails, HaveNoParametersForBounds) {
+  const ParsedText tree = ParsedText::ofQuery("MATCH ()-[*1..$p]-() RETURN 1");
+  EXPECT_EQ(tree.texts<CypherParser::OC_RangeLiteralContext>(), std::vector<std::string>{"*1.."});
+  EXPECT_EQ(tree.texts<CypherParser::OC_PropertiesContext>(), std::vector<std::string>{"$p"});
+  EXPECT_FALSE(acceptsPattern("()-[*$p..2]-()"));
+}
+
+TEST(Properties, OfAPatternAreAMapOrAParameter) {
+  EXPECT_TRUE(acceptsPattern("(n $p)"));
+  EXPECT_TRUE(acceptsPattern("(n{})-[$1]-({k: n.x})"));
+  EXPECT_FALSE(acceptsPattern("(n [1])"));
+  EXPECT_FALSE(acceptsPattern("(n {k: 1} {l: 2})"));
+}
+
+TEST(ShortestPaths, HoldAnyPatternElement) {
+  const ParsedText tree = ParsedText::ofQuery("MATCH shortestPath((a)-[*]-(b)) RETURN 1");
+  EXPECT_EQ(tree.count<CypherParser::OC_ShortestPathPatternContext>(), 1U);
+  EXPECT_TRUE(acceptsPattern("shortestPath((a))"));
+  EXPECT_FALSE(acceptsPattern("shortestPath(p = (a)--(b))"));
+  EXPECT_FALSE(acceptsExpression("shortestPath((a)-[*]-(b))"));
+}
+
 }  // namespace

@@ -1,0 +1,64 @@
+#include <ANTLRInputStream.h>
+#include <gtest/gtest.h>
+#include <utf8.h>
+
+#include <iterator>
+#include <memory>
+#include <string>
+
+#include "CypherLexer.h"
+
+namespace {
+
+// Lexes many short texts with one lexer, which makes it bearable to try every character.
+class NameLexer {
+ public:
+  NameLexer() { lexer.removeErrorListeners(); }
+
+  // The text stands behind a blank, as U+FEFF at the very beginning is no part of a text.
+  bool isName(const std::string& utf8) {
+    input.load(" " + utf8, false);
+    lexer.setInputStream(&input);
+    lexer.nextToken();
+    const std::unique_ptr<antlr4::Token> token = lexer.nextToken();
+    return token->getType() == vorn::CypherLexer::UnescapedSymbolicName &&
+           token->getStartIndex() == 1 && token->getStopIndex() + 1 == input.size();
+  }
+
+ private:
+  antlr4::ANTLRInputStream input;
+  vorn::CypherLexer lexer{&input};
+};
+
+std::string utf8Of(char32_t codePoint) {
+  std::string text;
+  utf8::append(codePoint, std::back_inserter(text));
+  return text;
+}
+
+template <typename Test>
+std::size_t countCharacters(const Test& test) {
+  std::size_t count = 0;
+  for (char32_t codePoint = 0; codePoint <= 0x10FFFF; ++codePoint) {
+    const bool isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
+    count += !isSurrogate && test(utf8Of(codePoint)) ? 1 : 0;
+  }
+  return count;
+}
+
+// ID_Start has 136,345 characters and Pc, which it does not meet, 10.
+TEST(IdentifierCharacters, ThatBeginANameAreThoseOfUnicode15) {
+  NameLexer lexer;
+  EXPECT_EQ(
+      countCharacters([&lexer](const std::string& first) { return lexer.isName(first + "zz"); }),
+      136345U + 10U);
+}
+
+// ID_Continue has 139,482 characters, among them those of Pc; Sc, which it does not meet, has 63.
+TEST(IdentifierCharacters, ThatContinueANameAreThoseOfUnicode15) {
+  NameLexer lexer;
+  EXPECT_EQ(countCharacters([&lexer](const std::string& next) { return lexer.isName("z" + next); }),
+            139482U + 63U);
+}
+
+}  // namespace
