@@ -6,9 +6,6 @@ using vorn::CypherType;
 
 namespace {
 
-constexpr CypherType unknown = CypherType::Unknown;
-constexpr CypherType node = CypherType::Node;
-
 TEST(ColumnNames, AreTheTextOfTheExpressionAsWritten) {
   EXPECT_EQ(analyse("MATCH (n) RETURN n.x + 1"), answered({{"n.x + 1", unknown}}));
   EXPECT_EQ(analyse("MATCH (n) RETURN  n . x+1  ,\tCOUNT( * )"),

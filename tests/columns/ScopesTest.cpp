@@ -2,14 +2,7 @@
 
 #include "support/Columns.h"
 
-using vorn::CypherType;
-
 namespace {
-
-constexpr CypherType unknown = CypherType::Unknown;
-constexpr CypherType node = CypherType::Node;
-constexpr CypherType relationship = CypherType::Relationship;
-constexpr CypherType path = CypherType::Path;
 
 TEST(Star, SortsTheVariablesByNameAndNotByBinding) {
   EXPECT_EQ(analyse("MATCH (b), (a) RETURN *"), answered({{"a", node}, {"b", node}}));

@@ -2,15 +2,7 @@
 
 #include "support/Columns.h"
 
-using vorn::CypherType;
-
 namespace {
-
-constexpr CypherType unknown = CypherType::Unknown;
-constexpr CypherType node = CypherType::Node;
-constexpr CypherType relationship = CypherType::Relationship;
-constexpr CypherType path = CypherType::Path;
-constexpr CypherType nodeOrRelationship = CypherType::NodeOrRelationship;
 
 TEST(Union, KeepsAKindThatTheBranchesShare) {
   EXPECT_EQ(analyse("MATCH (n) RETURN n UNION MATCH (n) RETURN n"), answered({{"n", node}}));

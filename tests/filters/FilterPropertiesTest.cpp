@@ -110,8 +110,7 @@ RC_GTEST_PROP(DamagedFilters, AreExpressionsForBothFunctionsOrForNeither, ()) {
   text.erase(at, *rc::gen::inRange<std::size_t>(1, 4));
   text.insert(std::min(at, text.size()),
               *rc::gen::element<std::string>("", "(", "`", "'", " ", "..", "{"));
-  std::string valid;
-  utf8::replace_invalid(text.begin(), text.end(), std::back_inserter(valid), '?');
+  const std::string valid = wellFormed(text);
   const Failure renaming = failureOfRenaming(valid, {});
   const Failure usages = failureOfUsages(valid);
   if (renaming.kind == Failure::Kind::none) {

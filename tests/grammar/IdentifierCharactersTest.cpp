@@ -1,12 +1,11 @@
 #include <ANTLRInputStream.h>
 #include <gtest/gtest.h>
-#include <utf8.h>
 
-#include <iterator>
 #include <memory>
 #include <string>
 
 #include "CypherLexer.h"
+#include "support/Text.h"
 
 namespace {
 
@@ -30,18 +29,12 @@ class NameLexer {
   vorn::CypherLexer lexer{&input};
 };
 
-std::string utf8Of(char32_t codePoint) {
-  std::string text;
-  utf8::append(codePoint, std::back_inserter(text));
-  return text;
-}
-
 template <typename Test>
 std::size_t countCharacters(const Test& test) {
   std::size_t count = 0;
   for (char32_t codePoint = 0; codePoint <= 0x10FFFF; ++codePoint) {
     const bool isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
-    count += !isSurrogate && test(utf8Of(codePoint)) ? 1 : 0;
+    count += !isSurrogate && test(encoded(codePoint)) ? 1 : 0;
   }
   return count;
 }

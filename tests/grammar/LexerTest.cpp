@@ -1,11 +1,10 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
-#include <utf8.h>
 
 #include <algorithm>
 #include <cctype>
-#include <iterator>
 
+#include "support/Text.h"
 #include "support/Tokens.h"
 
 namespace {
@@ -14,34 +13,22 @@ using Lexer = vorn::CypherLexer;
 using Types = std::vector<std::size_t>;
 using Texts = std::vector<std::string>;
 
-Types types(std::string_view text) { return tokenTypes(text); }
-
-std::size_t only(std::string_view text) { return onlyTokenType(text); }
-
-bool isRefused(std::string_view text) { return lexerRefuses(text); }
-
-std::string utf8Of(char32_t codePoint) {
-  std::string text;
-  utf8::append(codePoint, std::back_inserter(text));
-  return text;
-}
-
 TEST(Keywords, MatchInAnyCaseAndBeatNames) {
   for (const char* text : {"match", "Match", "MATCH", "mAtCh"}) {
-    EXPECT_EQ(only(text), Lexer::MATCH);
+    EXPECT_EQ(onlyTokenType(text), Lexer::MATCH);
   }
-  EXPECT_EQ(only("skip"), Lexer::L_SKIP);
-  EXPECT_EQ(only("L_SKIP"), Lexer::UnescapedSymbolicName);
-  EXPECT_EQ(only("allShortestPaths"), Lexer::ALLSHORTESTPATHS);
-  EXPECT_EQ(types("shortest path"),
+  EXPECT_EQ(onlyTokenType("skip"), Lexer::L_SKIP);
+  EXPECT_EQ(onlyTokenType("L_SKIP"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("allShortestPaths"), Lexer::ALLSHORTESTPATHS);
+  EXPECT_EQ(tokenTypes("shortest path"),
             (Types{Lexer::UnescapedSymbolicName, Lexer::SP, Lexer::UnescapedSymbolicName}));
 }
 
 TEST(Keywords, LoseToALongerName) {
-  EXPECT_EQ(only("matches"), Lexer::UnescapedSymbolicName);
-  EXPECT_EQ(only("asc1"), Lexer::UnescapedSymbolicName);
-  EXPECT_EQ(only("_in"), Lexer::UnescapedSymbolicName);
-  EXPECT_EQ(only("in$"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("matches"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("asc1"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("_in"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("in$"), Lexer::UnescapedSymbolicName);
 }
 
 TEST(Keywords, AreEachTheirOwnToken) {
@@ -52,17 +39,17 @@ TEST(Keywords, AreEachTheirOwnToken) {
     }
     const std::string symbol(pipeline.lexer.getVocabulary().getSymbolicName(type));
     std::string word = type == Lexer::L_SKIP ? "SKIP" : symbol;
-    EXPECT_EQ(only(word), type) << word;
+    EXPECT_EQ(onlyTokenType(word), type) << word;
     std::transform(word.begin(), word.end(), word.begin(),
                    [](char c) { return static_cast<char>(std::tolower(c)); });
-    EXPECT_EQ(only(word), type) << word;
-    EXPECT_EQ(only(word + "x"), Lexer::UnescapedSymbolicName) << word;
+    EXPECT_EQ(onlyTokenType(word), type) << word;
+    EXPECT_EQ(onlyTokenType(word + "x"), Lexer::UnescapedSymbolicName) << word;
   }
 }
 
 TEST(Keywords, TakeAsciiLettersOnly) {
-  EXPECT_EQ(only("LIM\u0130T"), Lexer::UnescapedSymbolicName);
-  EXPECT_EQ(only("\u017Fet"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("LIM\u0130T"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("\u017Fet"), Lexer::UnescapedSymbolicName);
 }
 
 std::vector<std::pair<std::size_t, std::string>> keywords() {
@@ -89,7 +76,7 @@ RC_GTEST_PROP(Keywords, InAnyMixtureOfCasesAreTheKeyword, ()) {
   for (const auto& keyword : keywords()) {
     const std::string word = inDrawnCase(keyword.second);
     RC_LOG() << word << '\n';
-    RC_ASSERT(only(word) == keyword.first);
+    RC_ASSERT(onlyTokenType(word) == keyword.first);
   }
 }
 
@@ -101,40 +88,40 @@ RC_GTEST_PROP(Keywords, WithACharacterOfANameBeforeOrBehindAreNames, ()) {
   for (const auto& keyword : keywords()) {
     const std::string word = inDrawnCase(keyword.second);
     RC_LOG() << word << '\n';
-    RC_ASSERT(only(before + word) == Lexer::UnescapedSymbolicName);
-    RC_ASSERT(only(word + behind) == Lexer::UnescapedSymbolicName);
+    RC_ASSERT(onlyTokenType(before + word) == Lexer::UnescapedSymbolicName);
+    RC_ASSERT(onlyTokenType(word + behind) == Lexer::UnescapedSymbolicName);
   }
 }
 
 TEST(Names, OfOneLetterFromAToFAreHexLetters) {
   for (const char letter : std::string("ABCDEFabcdef")) {
-    EXPECT_EQ(only(std::string(1, letter)), Lexer::HexLetter);
+    EXPECT_EQ(onlyTokenType(std::string(1, letter)), Lexer::HexLetter);
   }
-  EXPECT_EQ(only("g"), Lexer::UnescapedSymbolicName);
-  EXPECT_EQ(only("G"), Lexer::UnescapedSymbolicName);
-  EXPECT_EQ(only("ab"), Lexer::UnescapedSymbolicName);
-  EXPECT_EQ(only("a1"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("g"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("G"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("ab"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("a1"), Lexer::UnescapedSymbolicName);
 }
 
 TEST(Names, MayBeginWithAnUnderscoreAndHoldButNotBeginWithACurrencySign) {
-  EXPECT_EQ(only("_x"), Lexer::UnescapedSymbolicName);
-  EXPECT_EQ(only("_"), Lexer::UnescapedSymbolicName);
-  EXPECT_EQ(types("$x"), (Types{Lexer::T__25, Lexer::UnescapedSymbolicName}));
-  EXPECT_EQ(only("x$"), Lexer::UnescapedSymbolicName);
-  EXPECT_EQ(only("x€"), Lexer::UnescapedSymbolicName);
-  EXPECT_EQ(types("€x"), (Types{Lexer::IdentifierPart, Lexer::UnescapedSymbolicName}));
+  EXPECT_EQ(onlyTokenType("_x"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("_"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(tokenTypes("$x"), (Types{Lexer::T__25, Lexer::UnescapedSymbolicName}));
+  EXPECT_EQ(onlyTokenType("x$"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("x€"), Lexer::UnescapedSymbolicName);
+  EXPECT_EQ(tokenTypes("€x"), (Types{Lexer::IdentifierPart, Lexer::UnescapedSymbolicName}));
 }
 
 TEST(Names, BetweenBackQuotesAreOneTokenWithAllBackQuotes) {
   Pipeline pipeline("`a``b`");
   EXPECT_EQ(pipeline.types(), Types{Lexer::EscapedSymbolicName});
   EXPECT_EQ(pipeline.tokens.get(0)->getText(), "`a``b`");
-  EXPECT_EQ(only("``"), Lexer::EscapedSymbolicName);
-  EXPECT_EQ(only("`\n'\\`"), Lexer::EscapedSymbolicName);
-  EXPECT_TRUE(isRefused("`a"));
-  EXPECT_EQ(only("`a```"), Lexer::EscapedSymbolicName);
-  EXPECT_TRUE(isRefused("`a``"));
-  EXPECT_TRUE(isRefused("`"));
+  EXPECT_EQ(onlyTokenType("``"), Lexer::EscapedSymbolicName);
+  EXPECT_EQ(onlyTokenType("`\n'\\`"), Lexer::EscapedSymbolicName);
+  EXPECT_TRUE(lexerRefuses("`a"));
+  EXPECT_EQ(onlyTokenType("`a```"), Lexer::EscapedSymbolicName);
+  EXPECT_TRUE(lexerRefuses("`a``"));
+  EXPECT_TRUE(lexerRefuses("`"));
 }
 
 struct SetSize {
@@ -156,14 +143,14 @@ SetSize sizeOfSet(const Test& isMember) {
 }
 
 bool startsAName(char32_t codePoint) {
-  const std::string text = utf8Of(codePoint) + "zz";
-  return !isRefused(text) && only(text) == Lexer::UnescapedSymbolicName;
+  const std::string text = encoded(codePoint) + "zz";
+  return !lexerRefuses(text) && onlyTokenType(text) == Lexer::UnescapedSymbolicName;
 }
 
 TEST(Names, FollowUnicode15) {
   const auto continues = [](char32_t codePoint) {
-    const std::string text = "z" + utf8Of(codePoint);
-    return !isRefused(text) && only(text) == Lexer::UnescapedSymbolicName;
+    const std::string text = "z" + encoded(codePoint);
+    return !lexerRefuses(text) && onlyTokenType(text) == Lexer::UnescapedSymbolicName;
   };
   // The last block that Unicode 15.0 added, and characters that 15.1 added.
   EXPECT_TRUE(startsAName(0x31350));
@@ -216,12 +203,12 @@ TEST(Names, HaveTheSetsOfUnicode15) {
 }
 
 TEST(Numbers, TakeALowerCaseXAndO) {
-  EXPECT_EQ(only("0x1F"), Lexer::HexInteger);
-  EXPECT_EQ(only("0xaF"), Lexer::HexInteger);
-  EXPECT_EQ(types("0X1F"), (Types{Lexer::DecimalInteger, Lexer::UnescapedSymbolicName}));
-  EXPECT_EQ(only("0o17"), Lexer::OctalInteger);
-  EXPECT_EQ(types("0O17"), (Types{Lexer::DecimalInteger, Lexer::UnescapedSymbolicName}));
-  EXPECT_EQ(types("0o18"), (Types{Lexer::OctalInteger, Lexer::DecimalInteger}));
+  EXPECT_EQ(onlyTokenType("0x1F"), Lexer::HexInteger);
+  EXPECT_EQ(onlyTokenType("0xaF"), Lexer::HexInteger);
+  EXPECT_EQ(tokenTypes("0X1F"), (Types{Lexer::DecimalInteger, Lexer::UnescapedSymbolicName}));
+  EXPECT_EQ(onlyTokenType("0o17"), Lexer::OctalInteger);
+  EXPECT_EQ(tokenTypes("0O17"), (Types{Lexer::DecimalInteger, Lexer::UnescapedSymbolicName}));
+  EXPECT_EQ(tokenTypes("0o18"), (Types{Lexer::OctalInteger, Lexer::DecimalInteger}));
 }
 
 TEST(Numbers, LeaveToTheNextTokenWhatDoesNotFit) {
@@ -236,52 +223,53 @@ TEST(Numbers, LeaveToTheNextTokenWhatDoesNotFit) {
 }
 
 TEST(Numbers, EndBehindALeadingZero) {
-  EXPECT_EQ(types("017"), (Types{Lexer::DecimalInteger, Lexer::DecimalInteger}));
-  EXPECT_EQ(only("0"), Lexer::DecimalInteger);
-  EXPECT_EQ(only("10"), Lexer::DecimalInteger);
+  EXPECT_EQ(tokenTypes("017"), (Types{Lexer::DecimalInteger, Lexer::DecimalInteger}));
+  EXPECT_EQ(onlyTokenType("0"), Lexer::DecimalInteger);
+  EXPECT_EQ(onlyTokenType("10"), Lexer::DecimalInteger);
 }
 
 TEST(Numbers, OfOneDigitAreDecimalIntegers) {
   for (const char digit : std::string("0123456789")) {
-    EXPECT_EQ(only(std::string(1, digit)), Lexer::DecimalInteger);
+    EXPECT_EQ(onlyTokenType(std::string(1, digit)), Lexer::DecimalInteger);
   }
 }
 
 TEST(Numbers, WithAPointOrAnExponentAreReal) {
-  EXPECT_EQ(only("1.5"), Lexer::RegularDecimalReal);
-  EXPECT_EQ(only(".5"), Lexer::RegularDecimalReal);
-  EXPECT_EQ(only("007.50"), Lexer::RegularDecimalReal);
+  EXPECT_EQ(onlyTokenType("1.5"), Lexer::RegularDecimalReal);
+  EXPECT_EQ(onlyTokenType(".5"), Lexer::RegularDecimalReal);
+  EXPECT_EQ(onlyTokenType("007.50"), Lexer::RegularDecimalReal);
   for (const char* text : {"1.5e3", "1e3", ".5e-3", "1E3", "00e0"}) {
-    EXPECT_EQ(only(text), Lexer::ExponentDecimalReal) << text;
+    EXPECT_EQ(onlyTokenType(text), Lexer::ExponentDecimalReal) << text;
   }
-  EXPECT_EQ(types("1."), (Types{Lexer::DecimalInteger, Lexer::T__22}));
+  EXPECT_EQ(tokenTypes("1."), (Types{Lexer::DecimalInteger, Lexer::T__22}));
 }
 
 TEST(Numbers, TakeNoPlusSignInAnExponent) {
-  EXPECT_EQ(types("1e+3"),
+  EXPECT_EQ(tokenTypes("1e+3"),
             (Types{Lexer::DecimalInteger, Lexer::HexLetter, Lexer::T__17, Lexer::DecimalInteger}));
 }
 
 TEST(Numbers, LeaveTwoFullStopsToARange) {
-  EXPECT_EQ(types("1..5"), (Types{Lexer::DecimalInteger, Lexer::T__11, Lexer::DecimalInteger}));
+  EXPECT_EQ(tokenTypes("1..5"),
+            (Types{Lexer::DecimalInteger, Lexer::T__11, Lexer::DecimalInteger}));
 }
 
 TEST(Strings, HoldAnythingButTheirQuoteAndABackslash) {
-  EXPECT_EQ(only("'a \"b\" `c`\n\u3000😀'"), Lexer::StringLiteral);
-  EXPECT_EQ(only("\"it's\""), Lexer::StringLiteral);
-  EXPECT_EQ(only("''"), Lexer::StringLiteral);
-  EXPECT_EQ(types("'a''b'"), (Types{Lexer::StringLiteral, Lexer::StringLiteral}));
+  EXPECT_EQ(onlyTokenType("'a \"b\" `c`\n\u3000😀'"), Lexer::StringLiteral);
+  EXPECT_EQ(onlyTokenType("\"it's\""), Lexer::StringLiteral);
+  EXPECT_EQ(onlyTokenType("''"), Lexer::StringLiteral);
+  EXPECT_EQ(tokenTypes("'a''b'"), (Types{Lexer::StringLiteral, Lexer::StringLiteral}));
 }
 
 TEST(Strings, HoldThirteenEscapesAndTwoKindsOfCodePoints) {
-  EXPECT_EQ(only(R"('a\'b')"), Lexer::StringLiteral);
+  EXPECT_EQ(onlyTokenType(R"('a\'b')"), Lexer::StringLiteral);
   for (const char* escape :
        {"\\\\", "\\'", "\\\"", "\\B", "\\b", "\\F", "\\f", "\\N", "\\n", "\\R", "\\r", "\\T", "\\t",
         "\\u00e9", "\\U00E9", "\\u0001F600", "\\U0001F600"}) {
-    EXPECT_EQ(only("'" + std::string(escape) + "'"), Lexer::StringLiteral) << escape;
+    EXPECT_EQ(onlyTokenType("'" + std::string(escape) + "'"), Lexer::StringLiteral) << escape;
   }
   for (const char* escape : {"\\x", "\\u12", "\\", "\\a", "\\0"}) {
-    EXPECT_TRUE(isRefused("'" + std::string(escape) + "'")) << escape;
+    EXPECT_TRUE(lexerRefuses("'" + std::string(escape) + "'")) << escape;
   }
 }
 
@@ -305,22 +293,22 @@ TEST(Strings, WithAWrongEscapeAreReportedUpToItAndReadOnBehindIt) {
 }
 
 TEST(Strings, ThatAreNotClosedAreErrors) {
-  EXPECT_TRUE(isRefused("'abc"));
-  EXPECT_TRUE(isRefused("\"abc'"));
+  EXPECT_TRUE(lexerRefuses("'abc"));
+  EXPECT_TRUE(lexerRefuses("\"abc'"));
 }
 
 TEST(Backslashes, OutsideAStringAreErrorsUnlessTheyBeginAnEscape) {
-  EXPECT_TRUE(isRefused("\\"));
-  EXPECT_TRUE(isRefused("\\x"));
-  EXPECT_EQ(only("\\n"), Lexer::EscapedChar);
+  EXPECT_TRUE(lexerRefuses("\\"));
+  EXPECT_TRUE(lexerRefuses("\\x"));
+  EXPECT_EQ(onlyTokenType("\\n"), Lexer::EscapedChar);
 }
 
 TEST(WhiteSpace, HasTwentyNineCharacters) {
   std::u32string found;
   for (char32_t codePoint = 1; codePoint <= 0xFFFF; ++codePoint) {
     if (codePoint < 0xD800 || codePoint > 0xDFFF) {
-      const std::string text = utf8Of(codePoint);
-      if (!isRefused(text) && only(text) == Lexer::SP) {
+      const std::string text = encoded(codePoint);
+      if (!lexerRefuses(text) && onlyTokenType(text) == Lexer::SP) {
         found += codePoint;
       }
     }
@@ -331,37 +319,38 @@ TEST(WhiteSpace, HasTwentyNineCharacters) {
 }
 
 TEST(WhiteSpace, OfAnyKindAndCommentsAreOneToken) {
-  EXPECT_EQ(only(" \t\n\v\f\r\x1C\x1D\x1E\x1F"), Lexer::SP);
-  EXPECT_EQ(only("\u00A0\u1680\u180E\u2000\u200A\u2028\u2029\u202F\u205F\u3000"), Lexer::SP);
-  EXPECT_EQ(only(" /* a */\t// b\n /**/"), Lexer::SP);
-  EXPECT_EQ(only("/**/"), Lexer::SP);
-  EXPECT_TRUE(isRefused("\u200B"));
-  EXPECT_TRUE(isRefused("\u0085"));
+  EXPECT_EQ(onlyTokenType(" \t\n\v\f\r\x1C\x1D\x1E\x1F"), Lexer::SP);
+  EXPECT_EQ(onlyTokenType("\u00A0\u1680\u180E\u2000\u200A\u2028\u2029\u202F\u205F\u3000"),
+            Lexer::SP);
+  EXPECT_EQ(onlyTokenType(" /* a */\t// b\n /**/"), Lexer::SP);
+  EXPECT_EQ(onlyTokenType("/**/"), Lexer::SP);
+  EXPECT_TRUE(lexerRefuses("\u200B"));
+  EXPECT_TRUE(lexerRefuses("\u0085"));
 }
 
 TEST(Comments, OfALineReachToItsEndOrTheEndOfTheText) {
-  EXPECT_EQ(only("// a"), Lexer::SP);
-  EXPECT_EQ(only("//"), Lexer::SP);
-  EXPECT_EQ(types("// a\nx"), (Types{Lexer::SP, Lexer::UnescapedSymbolicName}));
-  EXPECT_EQ(types("// a\r\nx"), (Types{Lexer::SP, Lexer::UnescapedSymbolicName}));
-  EXPECT_EQ(only("// a\r"), Lexer::SP);
-  EXPECT_EQ(types("//z\rz"), (Types{Lexer::T__19, Lexer::T__19, Lexer::UnescapedSymbolicName,
-                                    Lexer::SP, Lexer::UnescapedSymbolicName}));
+  EXPECT_EQ(onlyTokenType("// a"), Lexer::SP);
+  EXPECT_EQ(onlyTokenType("//"), Lexer::SP);
+  EXPECT_EQ(tokenTypes("// a\nx"), (Types{Lexer::SP, Lexer::UnescapedSymbolicName}));
+  EXPECT_EQ(tokenTypes("// a\r\nx"), (Types{Lexer::SP, Lexer::UnescapedSymbolicName}));
+  EXPECT_EQ(onlyTokenType("// a\r"), Lexer::SP);
+  EXPECT_EQ(tokenTypes("//z\rz"), (Types{Lexer::T__19, Lexer::T__19, Lexer::UnescapedSymbolicName,
+                                         Lexer::SP, Lexer::UnescapedSymbolicName}));
 }
 
 TEST(Comments, OfABlockCloseOnlyBehindAnOddRunOfStars) {
-  EXPECT_EQ(only("/**/"), Lexer::SP);
-  EXPECT_EQ(only("/****/"), Lexer::SP);
-  EXPECT_EQ(only("/* a */"), Lexer::SP);
-  EXPECT_EQ(only("/* a ***/"), Lexer::SP);
-  EXPECT_EQ(types("/***/"),
+  EXPECT_EQ(onlyTokenType("/**/"), Lexer::SP);
+  EXPECT_EQ(onlyTokenType("/****/"), Lexer::SP);
+  EXPECT_EQ(onlyTokenType("/* a */"), Lexer::SP);
+  EXPECT_EQ(onlyTokenType("/* a ***/"), Lexer::SP);
+  EXPECT_EQ(tokenTypes("/***/"),
             (Types{Lexer::T__19, Lexer::T__4, Lexer::T__4, Lexer::T__4, Lexer::T__19}));
-  EXPECT_EQ(types("/* a **/"), (Types{Lexer::T__19, Lexer::T__4, Lexer::SP, Lexer::HexLetter,
-                                      Lexer::SP, Lexer::T__4, Lexer::T__4, Lexer::T__19}));
+  EXPECT_EQ(tokenTypes("/* a **/"), (Types{Lexer::T__19, Lexer::T__4, Lexer::SP, Lexer::HexLetter,
+                                           Lexer::SP, Lexer::T__4, Lexer::T__4, Lexer::T__19}));
 }
 
 TEST(Comments, ThatAreNotClosedAreASlashAndAStar) {
-  EXPECT_EQ(types("/* z"),
+  EXPECT_EQ(tokenTypes("/* z"),
             (Types{Lexer::T__19, Lexer::T__4, Lexer::SP, Lexer::UnescapedSymbolicName}));
 }
 
@@ -373,20 +362,20 @@ TEST(Symbols, AreTokensOfTheirOwn) {
         "-",      "/",      "%",      "^",      ".",      "{",      "}",      "$",      "\u27E8",
         "\u3008", "\uFE64", "\uFF1C", "\u27E9", "\u3009", "\uFE65", "\uFF1E", "\u00AD", "\u2010",
         "\u2011", "\u2012", "\u2013", "\u2014", "\u2015", "\u2212", "\uFE58", "\uFE63", "\uFF0D"}) {
-    EXPECT_EQ(only(text), type) << text;
+    EXPECT_EQ(onlyTokenType(text), type) << text;
     ++type;
   }
   EXPECT_EQ(type, 46U);
 }
 
 TEST(Symbols, OfTwoCharactersAdmitNoBlankInside) {
-  EXPECT_EQ(types("< ="), (Types{Lexer::T__13, Lexer::SP, Lexer::T__2}));
-  EXPECT_EQ(only("<="), Lexer::T__15);
+  EXPECT_EQ(tokenTypes("< ="), (Types{Lexer::T__13, Lexer::SP, Lexer::T__2}));
+  EXPECT_EQ(onlyTokenType("<="), Lexer::T__15);
 }
 
 TEST(Symbols, ThatNoRuleKnowsAreErrors) {
   for (const char* text : {"!", "#", "&", "?", "@", "~", "\u0001", "\u2022", "\U0001F600"}) {
-    EXPECT_TRUE(isRefused(text)) << text;
+    EXPECT_TRUE(lexerRefuses(text)) << text;
   }
 }
 
@@ -421,7 +410,7 @@ RC_GTEST_PROP(Tokens, StandSideBySideAndGiveTheTextBack, ()) {
 }
 
 RC_GTEST_PROP(Tokens, AreNeverOfATypeThatAnotherOneAlwaysBeats, ()) {
-  for (const std::size_t type : types(*genLexable())) {
+  for (const std::size_t type : tokenTypes(*genLexable())) {
     for (const std::size_t never : {Lexer::HexDigit, Lexer::Digit, Lexer::NonZeroDigit,
                                     Lexer::NonZeroOctDigit, Lexer::OctDigit, Lexer::ZeroDigit,
                                     Lexer::IdentifierStart, Lexer::WHITESPACE, Lexer::Comment}) {

@@ -12,6 +12,13 @@
 /// Columns with UTF-8 names, as a test writes them.
 using Columns = std::vector<std::pair<std::string, vorn::CypherType>>;
 
+// The kinds, by the short names that make expected columns readable.
+constexpr vorn::CypherType unknown = vorn::CypherType::Unknown;
+constexpr vorn::CypherType node = vorn::CypherType::Node;
+constexpr vorn::CypherType relationship = vorn::CypherType::Relationship;
+constexpr vorn::CypherType path = vorn::CypherType::Path;
+constexpr vorn::CypherType nodeOrRelationship = vorn::CypherType::NodeOrRelationship;
+
 /// The answer of GetOutputNamesAndTypes to one query.
 struct ColumnsAnswer {
   std::int32_t status;

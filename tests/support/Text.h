@@ -21,3 +21,17 @@ inline std::string narrow(std::basic_string_view<vorn::WideChar> wide) {
   utf8::utf16to8(wide.begin(), wide.end(), std::back_inserter(text));
   return text;
 }
+
+/// One character in UTF-8.
+inline std::string encoded(char32_t codePoint) {
+  std::string text;
+  utf8::append(codePoint, std::back_inserter(text));
+  return text;
+}
+
+/// The text with a question mark for each place that is no UTF-8, such as a character cut in two.
+inline std::string wellFormed(std::string_view damaged) {
+  std::string text;
+  utf8::replace_invalid(damaged.begin(), damaged.end(), std::back_inserter(text), '?');
+  return text;
+}
