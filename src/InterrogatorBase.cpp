@@ -5,8 +5,7 @@
 
 #include <string_view>
 
-#include "CypherLexer.h"
-#include "CypherParser.h"
+#include "GuardedRecognisers.h"
 #include "ThrowingErrorListener.h"
 #include "platform/StringUtf8ImplDetail.h"
 
@@ -25,10 +24,10 @@ void makeErrorsFatal(antlr4::Recognizer& recognizer) {
 InterrogatorBase::InterrogatorBase(const WideString& text)
     : utf8Text(StringUtf8ImplDetail::StringWideCharToUtf8Impl(text)),
       inputStream(std::make_unique<antlr4::ANTLRInputStream>(std::string_view(utf8Text))),
-      lexer(std::make_unique<CypherLexer>(inputStream.get())) {
+      lexer(std::make_unique<GuardedLexer>(inputStream.get(), guard)) {
   makeErrorsFatal(*lexer);
   tokenStream = std::make_unique<antlr4::CommonTokenStream>(lexer.get());
-  parser = std::make_unique<CypherParser>(tokenStream.get());
+  parser = std::make_unique<GuardedParser>(tokenStream.get(), guard);
   makeErrorsFatal(*parser);
 }
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "NestingGuard.h"
 #include "vorn/vorn.h"
 
 namespace antlr4 {
@@ -28,6 +29,7 @@ class InterrogatorBase {
  protected:
   explicit InterrogatorBase(const WideString& text);
 
+  NestingGuard guard;  // the first, so that nothing is done on a stack that has no room left
   // Each refers to the one before it, so the order of construction and destruction matters.
   std::string utf8Text;
   std::unique_ptr<antlr4::ANTLRInputStream> inputStream;

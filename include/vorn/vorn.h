@@ -25,12 +25,16 @@
 ///
 /// A byte order mark at the start of a text is skipped and is not part of any answer.
 ///
-/// Two things a host should know that reads text of strangers, and bound length and nesting:
+/// Two things a host should know that reads text of strangers:
 ///
-/// - The parser recurses. Allow 2 KiB of the calling thread's stack for each level of nesting; a
-///   text that nests deeper than the stack allows ends the process, whichever function is called.
+/// - The parser recurses. A text that nests too deeply for the calling thread's stack is refused by
+///   std::length_error, hence by status 1 from GetOutputNamesAndTypes. With 1 MiB of stack left, 250
+///   levels of any bracket fit; with 8 MiB, 2,000. Where the platform cannot tell how large the
+///   stack is (a coroutine's on Linux), 64 KiB are assumed, enough for a few levels. Less than
+///   32 KiB is refused whatever the text.
 /// - The tables by which the parser predicts are shared by the process. They grow with every new
-///   shape of text, and stay.
+///   shape of text, and stay. A text that nests deeply can also take time that grows faster than
+///   its length. So bound the length of what a stranger may send.
 
 #if defined(_WIN32)
 #if defined(VornLib_EXPORTS)
@@ -138,6 +142,7 @@ struct VariableUsage {
 ///         quantifier (`ALL`, `ANY`, `NONE`, `SINGLE`), a pattern predicate or an existential
 ///         subquery. The exception is of this very type, not of one derived from it; `what()` is
 ///         UTF-8 and names the type of the first such element.
+/// @throws std::length_error  The text nests too deeply for the stack.
 /// @throws std::exception  Any other failure, as a type derived from it. For text that is no
 ///         openCypher expression `what()` is "line L:C " and a description in UTF-8, with L the
 ///         line, counted from 1, and C the place in the line in code points, counted from 0.
@@ -157,15 +162,16 @@ VORN_API std::map<WideString, VariableUsage> GetVariableUsagesInPropertyFilterOC
 /// by GetVariableUsagesInPropertyFilterOCExpression.
 ///
 /// @param expression  The text of the filter. It is only read.
-/// @param renames     New names by old names. Back quotes around an old name make no difference,
-/// nor
+/// @param renames  New names by old names. Back quotes around an old name make no difference, nor
 ///         do those around a variable in the text. A new name that begins with a back quote is used
 ///         as it is, unchecked; any other one, be it empty, is put between back quotes, those
 ///         inside it doubled. If two old names mean one variable, the later one in the map's order
 ///         wins.
 /// @return The text of the expression with the names replaced.
-/// @throws std::exception  Any failure, as a type derived from it: a text that is no openCypher
-///         expression, as above, or a text or a name, even an unused one, that is not well formed.
+/// @throws std::length_error  The text nests too deeply for the stack.
+/// @throws std::exception  Any other failure, as a type derived from it: a text that is no
+///         openCypher expression, as above, or a text or a name, even an unused one, that is not
+///         well formed.
 /// @note Thread-safe.
 VORN_API WideString ReplaceVariableNamesInPropertyFilterOCExpression(
     const WideString& expression, const std::unordered_map<WideString, WideString>& renames);

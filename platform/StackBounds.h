@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+
+#if defined(_MSC_VER)
+#include <intrin.h>
+#endif
+
+namespace vorn {
+
+/// Where the current stack frame stands. Stacks grow towards lower addresses on all our platforms.
+inline std::uintptr_t stackPosition() {
+#if defined(_MSC_VER)
+  return reinterpret_cast<std::uintptr_t>(_AddressOfReturnAddress());
+#else
+  return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+#endif
+}
+
+/// The lowest address that the stack around `position`, a position on the calling thread's current
+/// stack, may grow to. If the platform cannot tell, which is so on the stack of a coroutine, an
+/// address that every sensible stack reaches.
+std::uintptr_t stackEnd(std::uintptr_t position);
+
+}  // namespace vorn

@@ -1,0 +1,136 @@
+#include "NestingGuard.h"
+
+#include <Parser.h>
+#include <ParserRuleContext.h>
+#include <Token.h>
+
+#include <algorithm>
+#include <iterator>
+#include <stdexcept>
+
+#include "CypherLexer.h"
+
+namespace vorn {
+
+namespace {
+
+// What a parse needs at any depth: for building the tables, prediction within one level, and
+// throwing.
+constexpr std::uintptr_t flatReserve = 32 * 1024;
+
+// What a level of nesting takes of the parser's own recursion: 64 bytes for each rule from one
+// bracket to the next, which are 23 in a subquery and 17 elsewhere at most.
+constexpr std::uintptr_t subquerySize = 24 * 64;
+constexpr std::uintptr_t levelSize = 18 * 64;
+
+// The grammar's symbols for brackets have no names of their own.
+enum Bracket : std::size_t {
+  openParenthesis = CypherLexer::T__5,
+  closeParenthesis = CypherLexer::T__6,
+  openSquare = CypherLexer::T__7,
+  closeSquare = CypherLexer::T__8,
+  openBrace = CypherLexer::T__23,
+  closeBrace = CypherLexer::T__24,
+};
+constexpr std::size_t comma = CypherLexer::T__1;
+constexpr std::size_t colon = CypherLexer::T__9;
+constexpr std::size_t bar = CypherLexer::T__10;
+constexpr std::size_t dot = CypherLexer::T__22;
+
+// Reserved words serve as names of labels, relationship types and properties too. No CASE begins
+// after these, and none ends after the further ones.
+bool isNameAfter(std::size_t tokenType) { return tokenType == dot || tokenType == openBrace; }
+
+bool isNameOrKeyAfter(std::size_t tokenType) {
+  return isNameAfter(tokenType) || tokenType == comma || tokenType == colon || tokenType == bar;
+}
+
+}  // namespace
+
+NestingGuard::NestingGuard() {
+  const std::uintptr_t start = stackPosition();
+  const std::uintptr_t end = stackEnd(start);
+  const std::uintptr_t size = start - end;
+  if (size < flatReserve) {
+    refuse();
+  }
+  // Prediction over the full context recurses once more over all open rules. It takes 80 bytes
+  // where the parser takes 64, so half as much again as what is used is kept free for it.
+  deepestPosition = end + (2 * flatReserve + 3 * size) / 5;
+}
+
+void NestingGuard::refuse() {
+  throw std::length_error("the openCypher text nests too deeply for the stack");
+}
+
+void NestingGuard::readToken(const antlr4::Token& token) {
+  const std::size_t type = token.getType();
+  switch (type) {
+    case openParenthesis:
+    case openSquare:
+    case openBrace:
+      open(token);
+      break;
+    case CypherLexer::CASE:
+      if (!isNameAfter(lastTokenType)) {
+        open(token);
+      }
+      break;
+    case closeParenthesis:
+    case closeSquare:
+    case closeBrace:
+      closeBracket();
+      break;
+    case CypherLexer::END:
+      if (!isNameOrKeyAfter(lastTokenType)) {
+        closeCase();
+      }
+      break;
+    case CypherLexer::SP:
+      return;
+    default:
+      break;
+  }
+  lastTokenType = type;
+}
+
+// Prediction reads ahead of the parser. The levels it opens there are refused as if the parser
+// stood in them already: it may get there, and prediction recurses over them too.
+void NestingGuard::open(const antlr4::Token& token) {
+  const bool isSubquery = lastTokenType == CypherLexer::EXISTS && token.getType() == openBrace;
+  const std::uintptr_t depth = openings.empty() ? 0 : openings.back().depth;
+  openings.push_back(
+      {token.getStartIndex(), token.getType(), depth + (isSubquery ? subquerySize : levelSize)});
+  if (stackPosition() < deepestPosition + sizeAhead()) {
+    refuse();
+  }
+}
+
+// Brackets need not match: neither the parser nor prediction goes on after one that does not.
+void NestingGuard::closeBracket() {
+  while (!openings.empty() && openings.back().tokenType == CypherLexer::CASE) {
+    openings.pop_back();
+  }
+  if (!openings.empty()) {
+    openings.pop_back();
+  }
+}
+
+void NestingGuard::closeCase() {
+  if (!openings.empty() && openings.back().tokenType == CypherLexer::CASE) {
+    openings.pop_back();
+  }
+}
+
+std::uintptr_t NestingGuard::sizeAhead() const {
+  const antlr4::ParserRuleContext* rule = parser->getContext();
+  const antlr4::Token* first = rule == nullptr ? nullptr : rule->start;
+  const std::size_t ruleStart = first == nullptr ? 0 : first->getStartIndex();
+  const auto ahead = std::lower_bound(
+      openings.begin(), openings.end(), ruleStart,
+      [](const Opening& opening, std::size_t position) { return opening.position < position; });
+  const std::uintptr_t behind = ahead == openings.begin() ? 0 : std::prev(ahead)->depth;
+  return openings.back().depth - behind;
+}
+
+}  // namespace vorn

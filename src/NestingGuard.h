@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "platform/StackBounds.h"
+
+namespace antlr4 {
+class Parser;
+class Token;
+}  // namespace antlr4
+
+namespace vorn {
+
+/// Refuses a text that nests too deeply for the stack, by std::length_error and before the stack
+/// runs out. The parser recurses with each level of nesting, and so does prediction, over the whole
+/// chain of open rules and over every level that it looks ahead.
+class NestingGuard {
+ public:
+  /// Takes the stack from here on as the one that the parse may use.
+  NestingGuard();
+
+  /// To be called with the parser before it starts.
+  void watch(antlr4::Parser& itsParser) { parser = &itsParser; }
+
+  /// To be called whenever the parser enters a rule.
+  void enterRule() const {
+    if (stackPosition() < deepestPosition) {
+      refuse();
+    }
+  }
+
+  /// To be called with each token that is read, in the order of the text.
+  void readToken(const antlr4::Token& token);
+
+ private:
+  struct Opening {
+    std::size_t position;  // of its first code point in the text
+    std::size_t tokenType;
+    std::uintptr_t depth;  // the stack that the parser takes for all levels up to this one
+  };
+
+  [[noreturn]] static void refuse();
+  void open(const antlr4::Token& token);
+  void closeBracket();
+  void closeCase();
+  [[nodiscard]] std::uintptr_t sizeAhead() const;
+
+  std::uintptr_t deepestPosition;  // the lowest that a rule may be entered at
+  antlr4::Parser* parser = nullptr;
+  std::vector<Opening> openings;  // that are still open, in the order of the text
+  std::size_t lastTokenType = 0;  // white space and comments aside
+};
+
+}  // namespace vorn

@@ -1,0 +1,71 @@
+// What counts as nesting while the parser looks ahead: inside `[x IN` it has to, up to where the
+// comprehension or list ends.
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+
+#include "StackedThread.h"
+#include "support/Text.h"
+#include "vorn/vorn.h"
+
+namespace {
+
+using vorn::WideString;
+
+std::string repeated(const std::string& text, std::size_t times) {
+  std::string all;
+  for (std::size_t i = 0; i < times; ++i) {
+    all += text;
+  }
+  return all;
+}
+
+void expectAccepted(const std::string& inner) {
+  const WideString text = wide("[x IN " + inner + "]");
+  onStackOf(128 * kibibyte, [&] {
+    EXPECT_EQ(vorn::ReplaceVariableNamesInPropertyFilterOCExpression(text, {}), text);
+  });
+}
+
+TEST(LookingAhead, DoesNotCountBracketsThatStandSideBySide) {
+  expectAccepted(repeated("(a) + [b] + f(c) + ", 300) + "a");
+}
+
+TEST(LookingAhead, DoesNotCountCasesThatStandSideBySide) {
+  expectAccepted(repeated("CASE WHEN a THEN b END + ", 300) + "a");
+}
+
+TEST(LookingAhead, DoesNotTakeAPropertyNamedCaseForACase) {
+  expectAccepted("a" + repeated(".case", 300));
+  expectAccepted(repeated("{case: 1}.case + ", 300) + "a");
+}
+
+TEST(LookingAhead, ForgetsALabelNamedCaseWithItsBracket) {
+  expectAccepted(repeated("(a:CASE) + ", 300) + "a");
+}
+
+// Each of these opens a level that the name END must not seem to close.
+TEST(LookingAhead, DoesNotTakeANameEndForTheEndOfACase) {
+  for (const char* level : {"CASE a.end WHEN ", "CASE a:END WHEN ", "CASE {end: 1} WHEN ",
+                            "CASE {a: 1, end: 1} WHEN ", "CASE ()-[:A|END]-() WHEN "}) {
+    const WideString text = wide("[x IN " + repeated(level, 5000));
+    onStackOf(128 * kibibyte, [&] {
+      EXPECT_THROW(vorn::ReplaceVariableNamesInPropertyFilterOCExpression(text, {}),
+                   std::length_error)
+          << level;
+    });
+  }
+}
+
+TEST(LookingAhead, FromDeepInsideATextCountsBothDepths) {
+  const WideString text = wide(repeated("(", 25) + "[x IN " + repeated("[", 25) + "a" +
+                               repeated("]", 25) + "]" + repeated(")", 25));
+  onStackOf(128 * kibibyte, [&] {
+    EXPECT_THROW(vorn::ReplaceVariableNamesInPropertyFilterOCExpression(text, {}),
+                 std::length_error);
+  });
+}
+
+}  // namespace

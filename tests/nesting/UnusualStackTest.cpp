@@ -1,0 +1,125 @@
+// Stacks of which the platform tells nothing or little, and stacks that are nearly used up.
+
+#include <alloca.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <ucontext.h>
+
+#include <cstring>
+#include <stdexcept>
+#include <vector>
+
+#include "Shapes.h"
+#include "StackedThread.h"
+#include "support/Text.h"
+#include "vorn/vorn.h"
+
+namespace {
+
+using vorn::WideString;
+
+enum class Answer { None, Right, Wrong, TooDeep };
+
+Answer answerFor(const WideString& text) {
+  try {
+    return vorn::ReplaceVariableNamesInPropertyFilterOCExpression(text, {}) == text ? Answer::Right
+                                                                                    : Answer::Wrong;
+  } catch (const std::length_error&) {
+    return Answer::TooDeep;
+  }
+}
+
+WideString parentheses(std::size_t levels) { return Shape{"", "(", ")", "a"}.nested(levels); }
+
+// makecontext passes its function numbers only.
+WideString contextText;              // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+Answer contextAnswer{Answer::None};  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
+Answer answerOnContextStack(std::size_t bytes, const WideString& text) {
+  std::vector<char> stack(bytes);
+  ucontext_t here{};
+  ucontext_t there{};
+  getcontext(&there);
+  there.uc_stack.ss_sp = stack.data();
+  there.uc_stack.ss_size = stack.size();
+  there.uc_link = &here;
+  contextText = text;
+  contextAnswer = Answer::None;
+  makecontext(
+      &there, [] { contextAnswer = answerFor(contextText); }, 0);
+  swapcontext(&here, &there);
+  return contextAnswer;
+}
+
+TEST(StackOfACoroutine, AnswersATextThatNestsALittle) {
+  EXPECT_EQ(answerOnContextStack(128 * kibibyte, parentheses(5)), Answer::Right);
+}
+
+TEST(StackOfACoroutine, RefusesATextThatNestsDeeply) {
+  for (const Shape& shape : allShapes()) {
+    EXPECT_EQ(answerOnContextStack(128 * kibibyte, shape.nested(20000)), Answer::TooDeep) << shape;
+  }
+}
+
+TEST(StackOfACoroutine, LeavesTheThreadsOwnStackAsItIs) {
+  const WideString text = parentheses(1000);
+  onStackOf(8 * mebibyte, [&] {
+    EXPECT_EQ(answerFor(text), Answer::Right);
+    EXPECT_EQ(answerOnContextStack(128 * kibibyte, text), Answer::TooDeep);
+    EXPECT_EQ(answerFor(text), Answer::Right);
+  });
+}
+
+Answer answerOnSignalStack(std::size_t bytes, const WideString& text) {
+  std::vector<char> memory(bytes);
+  stack_t stack{};
+  stack.ss_sp = memory.data();
+  stack.ss_size = memory.size();
+  stack_t oldStack{};
+  sigaltstack(&stack, &oldStack);
+  struct sigaction action {};
+  action.sa_handler = [](int) { contextAnswer = answerFor(contextText); };
+  action.sa_flags = SA_ONSTACK;
+  struct sigaction oldAction {};
+  sigaction(SIGUSR1, &action, &oldAction);
+  contextText = text;
+  contextAnswer = Answer::None;
+  raise(SIGUSR1);
+  sigaction(SIGUSR1, &oldAction, nullptr);
+  sigaltstack(&oldStack, nullptr);
+  return contextAnswer;
+}
+
+TEST(StackOfASignalHandler, IsUsedInFull) {
+  EXPECT_EQ(answerOnSignalStack(mebibyte, parentheses(250)), Answer::Right);
+}
+
+TEST(StackOfASignalHandler, IsNotOverrun) {
+  EXPECT_EQ(answerOnSignalStack(128 * kibibyte, parentheses(20000)), Answer::TooDeep);
+}
+
+Answer answerBelow(std::size_t usedBytes, const WideString& text) {
+  if (usedBytes == 0) {
+    return answerFor(text);
+  }
+  auto* used = static_cast<char*>(alloca(usedBytes));
+  std::memset(used, 1, usedBytes);
+  const Answer answer = answerFor(text);
+  return used[0] == 1 ? answer : Answer::Wrong;
+}
+
+TEST(StackThatIsNearlyUsedUp, GivesAnAnswerOrARefusal) {
+  const WideString text = parentheses(12);
+  std::vector<Answer> answers;
+  for (std::size_t left = 120; left >= 12; left -= 4) {
+    onStackOf(128 * kibibyte,
+              [&] { answers.push_back(answerBelow((124 - left) * kibibyte, text)); });
+  }
+  EXPECT_EQ(answers.front(), Answer::Right);
+  EXPECT_EQ(answers.back(), Answer::TooDeep);
+  for (const Answer answer : answers) {
+    EXPECT_TRUE(answer == Answer::Right || answer == Answer::TooDeep);
+  }
+}
+
+}  // namespace
