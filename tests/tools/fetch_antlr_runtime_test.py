@@ -14,7 +14,8 @@ import sys
 import tempfile
 import unittest
 
-SCRIPT = pathlib.Path(sys.argv[1]) / "tools" / "fetch-antlr-runtime.sh"
+TOOLS = pathlib.Path(sys.argv[1]) / "tools"
+SCRIPT = "fetch-antlr-runtime.sh"
 ARCHIVE = "pool/main/a/antlr4-cpp-runtime/antlr4-cpp-runtime_4.10+dfsg.orig.tar.xz"
 
 
@@ -26,7 +27,8 @@ class FetchAntlrRuntime(unittest.TestCase):
         self.folder = pathlib.Path(scratch.name)
         self.build = self.folder / "build"
         (self.folder / "tools").mkdir()
-        shutil.copy(SCRIPT, self.folder / "tools")
+        for script in [SCRIPT, "fetch-from-pool.sh"]:
+            shutil.copy(TOOLS / script, self.folder / "tools")
         self.mirror = self.folder / "mirror"
         (self.mirror / ARCHIVE).parent.mkdir(parents=True)
         (self.folder / "state" / "lists" / "partial").mkdir(parents=True)
@@ -45,7 +47,7 @@ class FetchAntlrRuntime(unittest.TestCase):
 
     def fetch(self) -> subprocess.CompletedProcess:
         return subprocess.run(
-            ["sh", self.folder / "tools" / SCRIPT.name],
+            ["sh", self.folder / "tools" / SCRIPT],
             env={**os.environ, "APT_CONFIG": str(self.folder / "apt.conf")},
             capture_output=True,
             text=True,
@@ -55,7 +57,7 @@ class FetchAntlrRuntime(unittest.TestCase):
         result = self.fetch()
         self.assertEqual(result.returncode, 1)
         self.assertEqual(len(result.stderr.splitlines()), 1, result.stderr)
-        self.assertIn("fetch-antlr-runtime: ", result.stderr)
+        self.assertIn("fetch-from-pool: ", result.stderr)
         self.assertIn(words, result.stderr)
         self.assertEqual(list(self.build.glob("*")), [])
 
