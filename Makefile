@@ -1,8 +1,9 @@
 # The front door. `make help` lists what can be done.
 .DEFAULT_GOAL := help
-.PHONY: help setup build run test grammar check-grammar lint format clean
+.PHONY: help setup build run test windows windows-test grammar check-grammar lint format clean
 
 BUILD := build/release
+WINDOWS_BUILD := build/windows
 OWN_CODE = $(shell git ls-files --cached --others --exclude-standard \
              'include/*.h' 'src/*.h' 'src/*.cpp' 'platform/*.h' 'platform/*.cpp' \
              'strings/*.h' 'strings/*.cpp' 'examples/*.h' 'examples/*.cpp' \
@@ -28,6 +29,13 @@ test: setup $(BUILD)/build.ninja ## build everything and run all tests
 	@cmake --build --preset release
 	@ctest --preset release
 
+windows: ## cross-build library, programs and tests for 64-bit Windows
+	@tools/install-packages.sh windows
+	@tools/fetch-antlr-runtime.sh
+	@tools/fetch-windows-sources.sh
+	@test -f $(WINDOWS_BUILD)/build.ninja || cmake --preset windows >/dev/null
+	@cmake --build --preset windows
+
 grammar: ## write grammar/generated/ anew from grammar/Cypher.g4
 	@tools/install-packages.sh grammar
 	@tools/fetch-antlr-tool.sh
@@ -51,4 +59,4 @@ format: ## bring the sources into format
 	@clang-format -i $(OWN_CODE)
 
 clean: ## remove everything that was built, but not what was downloaded
-	@rm -rf build/release build/debug
+	@rm -rf build/release build/debug build/windows build/wine

@@ -1,7 +1,7 @@
 #!/bin/sh
 # Installs the Debian packages that a task needs and that are missing.
 #
-#   tools/install-packages.sh build|grammar|lint
+#   tools/install-packages.sh build|grammar|lint|windows
 #
 # Does nothing, and needs neither network nor root, when all of them are there.
 set -eu
@@ -17,7 +17,9 @@ case "${1-}" in
                      libgtest-dev librapidcheck-dev locales" ;;
     grammar) packages="python3 unicode-data maven default-jre-headless" ;;
     lint) packages="clang-format clang-tidy" ;;
-    *) fail "say which packages: build, grammar or lint." ;;
+    windows) packages="g++-mingw-w64-x86-64-posix wine64 cmake ninja-build python3 xz-utils
+                       googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev" ;;
+    *) fail "say which packages: build, grammar, lint or windows." ;;
 esac
 
 command -v dpkg-query >/dev/null ||

@@ -1,0 +1,17 @@
+# The DLLs of mingw-w64 that everything built with it needs. They are put beside VornLib.dll, where
+# Windows looks for them, and installed with it.
+if(NOT MINGW)
+  return()
+endif()
+
+set(VORN_COMPILER_RUNTIME)
+foreach(name IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+  execute_process(COMMAND "${CMAKE_CXX_COMPILER}" "-print-file-name=${name}"
+    OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  # A name that comes back as it is was not found.
+  if(NOT IS_ABSOLUTE "${file}")
+    message(FATAL_ERROR "The compiler does not know where its ${name} is.")
+  endif()
+  list(APPEND VORN_COMPILER_RUNTIME "${file}")
+endforeach()
+file(COPY ${VORN_COMPILER_RUNTIME} DESTINATION "${PROJECT_BINARY_DIR}")

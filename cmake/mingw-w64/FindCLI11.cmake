@@ -1,0 +1,5 @@
+include(HostHeaders)
+if(NOT TARGET CLI11::CLI11)
+  vorn_host_headers(CLI11::CLI11 CLI)
+endif()
+set(CLI11_FOUND TRUE)

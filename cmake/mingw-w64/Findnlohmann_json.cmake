@@ -1,0 +1,5 @@
+include(HostHeaders)
+if(NOT TARGET nlohmann_json::nlohmann_json)
+  vorn_host_headers(nlohmann_json::nlohmann_json nlohmann)
+endif()
+set(nlohmann_json_FOUND TRUE)

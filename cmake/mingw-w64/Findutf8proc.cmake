@@ -1,0 +1,7 @@
+include(SourcesOfOthers)
+if(NOT TARGET utf8proc::utf8proc)
+  set(UTF8PROC_INSTALL OFF CACHE INTERNAL "")
+  vorn_sources_of_others("${PROJECT_SOURCE_DIR}/build/utf8proc-2.8.0" utf8proc)
+  add_library(utf8proc::utf8proc ALIAS utf8proc)
+endif()
+set(utf8proc_FOUND TRUE)

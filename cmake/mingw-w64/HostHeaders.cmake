@@ -1,0 +1,12 @@
+# vorn_host_headers(target name): an imported target with the headers of /usr/include/NAME, and none of
+# the others there, which belong to Linux.
+function(vorn_host_headers target name)
+  if(NOT EXISTS "/usr/include/${name}")
+    message(FATAL_ERROR "/usr/include/${name} is missing; `tools/install-packages.sh windows` installs it.")
+  endif()
+  set(folder "${CMAKE_BINARY_DIR}/host-headers/${name}")
+  file(MAKE_DIRECTORY "${folder}")
+  file(CREATE_LINK "/usr/include/${name}" "${folder}/${name}" SYMBOLIC)
+  add_library(${target} INTERFACE IMPORTED)
+  target_include_directories(${target} SYSTEM INTERFACE "${folder}" ${ARGN})
+endfunction()
