@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <iostream>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -197,7 +198,7 @@ int run(const Invocation& invocation) {
 
 }  // namespace
 
-int runCommandLine(int argc, const char* const* argv) {
+int runCommandLine(const std::vector<std::string>& arguments) {
   CLI::App program("Shows what VornLib understands of openCypher text.", "vorn-inspect");
   describe(program);
   std::vector<Invocation> invocations;
@@ -205,7 +206,8 @@ int runCommandLine(int argc, const char* const* argv) {
     invocations.push_back(addCommand(program, *command));
   }
   try {
-    program.parse(argc, argv);
+    // The parser wants them in reverse order, and without the name of the program.
+    program.parse(std::vector(arguments.rbegin(), std::prev(arguments.rend())));
   } catch (const CLI::Success& success) {
     // Help or the version was asked for.
     std::ostringstream text;

@@ -1,12 +1,11 @@
 #include "JsonLines.h"
 
-#include <unistd.h>
-
 #include <cstddef>
 #include <iostream>
 #include <string>
 
 #include "StandardOutput.h"
+#include "StandardStreams.h"
 #include "UsageError.h"
 
 namespace inspect {
@@ -37,8 +36,8 @@ class Progress {
   }
 
  private:
-  // Answers that appear on the terminal show the progress themselves, and would mix with a counter.
-  bool watched = isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0;
+  // Answers that appear there too show the progress themselves, and would mix with a counter.
+  bool watched = errorsAreWatched() && !outputIsWatched();
   bool shown = false;
   std::size_t lines = 0;
 };

@@ -1,8 +1,9 @@
 #include <exception>
-#include <ios>
 #include <iostream>
 
+#include "Arguments.h"
 #include "CommandLine.h"
+#include "StandardStreams.h"
 
 namespace {
 
@@ -16,10 +17,9 @@ int fail(const char* sentence) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Without it the standard library's own buffers would hide that a read failed.
-  std::ios::sync_with_stdio(false);
+  const inspect::StandardStreams streams;
   try {
-    return inspect::runCommandLine(argc, argv);
+    return inspect::runCommandLine(inspect::argumentsInUtf8(argc, argv));
   } catch (const std::exception& exception) {
     return fail(exception.what());
   }
