@@ -36,6 +36,9 @@ windows: ## cross-build library, programs and tests for 64-bit Windows
 	@test -f $(WINDOWS_BUILD)/build.ninja || cmake --preset windows >/dev/null
 	@cmake --build --preset windows
 
+windows-test: build windows ## run all tests for 64-bit Windows under Wine
+	@tools/test-under-wine.sh
+
 grammar: ## write grammar/generated/ anew from grammar/Cypher.g4
 	@tools/install-packages.sh grammar
 	@tools/fetch-antlr-tool.sh

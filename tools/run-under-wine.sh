@@ -13,7 +13,11 @@ fail() {
 
 wine=/usr/lib/wine/wine64
 [ -x "$wine" ] || fail "$wine is missing; tools/install-packages.sh windows installs it."
-[ $# -gt 0 ] || fail "name a program to run."
+# Given a program for Linux, Wine would start it and not tell how it ends.
+case "${1-}" in
+    *.exe) ;;
+    *) fail "name a program for Windows, as in run-under-wine.sh build/windows/vorn-inspect.exe." ;;
+esac
 
 root=$(cd "$(dirname "$0")/.." && pwd)
 export WINEPREFIX=$root/build/wine

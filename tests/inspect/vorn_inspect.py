@@ -4,12 +4,14 @@
 """
 
 import json
+import os
 import subprocess
 import sys
 import unittest
 from typing import Any, Union
 
 VORN_INSPECT = sys.argv[1]
+ON_WINDOWS = os.environ.get("VORN_SYSTEM") == "Windows"
 
 
 class Result:

@@ -1,0 +1,32 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "LoadedLibrary.h"
+
+namespace {
+
+std::string textOf(HMODULE module, const std::string& name) {
+  std::vector<char> path(MAX_PATH);
+  GetModuleFileNameA(module, path.data(), MAX_PATH);
+  std::vector<char> block(GetFileVersionInfoSizeA(path.data(), nullptr));
+  GetFileVersionInfoA(path.data(), 0, static_cast<DWORD>(block.size()), block.data());
+  void* text = nullptr;
+  UINT length = 0;
+  const std::string query = "\\StringFileInfo\\040904B0\\" + name;
+  return VerQueryValueA(block.data(), query.c_str(), &text, &length) != 0
+             ? static_cast<const char*>(text)
+             : "there is no " + name;
+}
+
+}  // namespace
+
+TEST(TheVersionResource, TellsNameAndVersion) {
+  const LoadedLibrary library;
+  EXPECT_EQ(textOf(library.module(), "FileVersion"), VORN_VERSION);
+  EXPECT_EQ(textOf(library.module(), "ProductVersion"), VORN_VERSION);
+  EXPECT_EQ(textOf(library.module(), "ProductName"), "VornLib");
+  EXPECT_EQ(textOf(library.module(), "FileDescription"), VORN_DESCRIPTION);
+}
