@@ -1,6 +1,6 @@
 # The front door. `make help` lists what can be done.
 .DEFAULT_GOAL := help
-.PHONY: help setup build run test windows windows-test grammar check-grammar lint format clean
+.PHONY: $(shell sed -n 's/^\([a-z-]*\):.*\#\# .*/\1/p' Makefile)
 
 BUILD := build/release
 WINDOWS_BUILD := build/windows
@@ -50,6 +50,14 @@ check-grammar: ## fail if grammar/generated/ is not what grammar/Cypher.g4 gives
 	@tools/fetch-antlr-tool.sh
 	@grammar/unicode_sets.py --check
 	@tools/generate-recognisers.sh --check
+
+docs: ## draw the railroad diagrams of docs/language.md anew
+	@tools/install-packages.sh docs
+	@docs/draw_rules.py
+
+check-docs: ## fail if the diagrams are not what grammar/Cypher.g4 gives
+	@tools/install-packages.sh docs
+	@docs/draw_rules.py --check
 
 lint: setup $(BUILD)/build.ninja ## check the format and run clang-tidy
 	@tools/install-packages.sh lint

@@ -1,7 +1,7 @@
 #!/bin/sh
 # Installs the Debian packages that a task needs and that are missing.
 #
-#   tools/install-packages.sh build|grammar|lint|windows
+#   tools/install-packages.sh TASK
 #
 # Does nothing, and needs neither network nor root, when all of them are there.
 set -eu
@@ -16,10 +16,11 @@ case "${1-}" in
                      libcli11-dev nlohmann-json3-dev libutf8proc-dev
                      libgtest-dev librapidcheck-dev locales" ;;
     grammar) packages="python3 unicode-data maven default-jre-headless" ;;
+    docs) packages="python3 python3-railroad-diagrams" ;;
     lint) packages="clang-format clang-tidy" ;;
     windows) packages="g++-mingw-w64-x86-64-posix wine64 cmake ninja-build python3 xz-utils
                        googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev" ;;
-    *) fail "say which packages: build, grammar, lint or windows." ;;
+    *) fail "say for which task: one of those in this script." ;;
 esac
 
 command -v dpkg-query >/dev/null ||

@@ -1,0 +1,309 @@
+#!/usr/bin/python3
+"""Draws the rules of grammar/Cypher.g4 as railroad diagrams, one SVG file for each.
+
+The diagrams stand in docs/language/, and docs/language.md shows them between two
+marker lines, in the order of the grammar. Debian's package
+python3-railroad-diagrams lays them out.
+
+    docs/draw_rules.py           write the diagrams and the list of them anew
+    docs/draw_rules.py --check   fail if one of them is not what the grammar gives
+"""
+
+import argparse
+import pathlib
+import re
+import sys
+from typing import Iterator, NamedTuple, Union
+
+import railroad
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+GRAMMAR = ROOT / "grammar" / "Cypher.g4"
+DOCUMENT = ROOT / "docs" / "language.md"
+DIAGRAMS = ROOT / "docs" / "language"
+
+LEXEME = re.compile(
+    r"""//[^\n]* | @[\w:]+\s*\{[^}]*\}                          # nothing that is drawn
+        | (?P<lexeme>'(?:\\.|[^'\\])*'|\[(?:\\.|[^\]\\])*\]|\w+|\.\.|[:;|()?*+~])""",
+    re.VERBOSE,
+)
+
+# Sets of Unicode: their many ranges would tell a reader less than their names do.
+NOT_DRAWN = {"ID_Start", "ID_Continue", "Pc", "Sc"}
+MEMBERS_IN_A_COLUMN = 9
+
+STYLE = (
+    "path,rect{fill:none;stroke:#57606a;stroke-width:2}"
+    "rect{fill:#fff}"
+    ".terminal{fill:#ddf4ff}"
+    "text{font:14px monospace;text-anchor:middle;fill:#1f2328}"
+    ".comment{font-size:12px;fill:#57606a}"
+    "@media(prefers-color-scheme:dark){"
+    "path,rect{stroke:#9198a1}"
+    "rect{fill:#0d1117}"
+    ".terminal{fill:#12304f}"
+    "text{fill:#f0f6fc}"
+    ".comment{fill:#9198a1}}"
+)
+
+
+class Name(NamedTuple):
+    text: str
+
+
+class Literal(NamedTuple):
+    text: str
+
+
+class Inversion(NamedTuple):
+    item: "Node"
+
+
+class Suffixed(NamedTuple):
+    item: "Node"
+    suffix: str
+
+
+class Sequence(NamedTuple):
+    items: tuple["Node", ...]
+
+
+class Choice(NamedTuple):
+    alternatives: tuple["Node", ...]
+
+
+Node = Union[Name, Literal, Inversion, Suffixed, Sequence, Choice]
+
+
+class Reader:
+    """Reads grammar text by recursive descent."""
+
+    def __init__(self, text: str) -> None:
+        self.lexemes = [match["lexeme"] for match in LEXEME.finditer(text) if match["lexeme"]]
+        self.position = 0
+
+    def next(self) -> str:
+        self.position += 1
+        return self.lexemes[self.position - 1]
+
+    def skip(self, lexeme: str) -> bool:
+        found = self.position < len(self.lexemes) and self.lexemes[self.position] == lexeme
+        self.position += found
+        return found
+
+    def expect(self, lexeme: str) -> None:
+        if not self.skip(lexeme):
+            raise SystemExit(f"draw_rules.py: Cypher.g4 lacks '{lexeme}' at {self.lexemes[self.position:][:5]}.")
+
+    def rules(self) -> Iterator[tuple[str, Node]]:
+        self.expect("grammar")
+        self.next()
+        self.expect(";")
+        while self.position < len(self.lexemes):
+            self.skip("fragment")
+            name = self.next()
+            self.expect(":")
+            yield name, self.choice()
+            self.expect(";")
+
+    def choice(self) -> Node:
+        alternatives = [self.sequence()]
+        while self.skip("|"):
+            alternatives.append(self.sequence())
+        return alternatives[0] if len(alternatives) == 1 else Choice(tuple(alternatives))
+
+    def sequence(self) -> Node:
+        items = []
+        while self.lexemes[self.position] not in "|);":
+            items.append(self.suffixed())
+        return items[0] if len(items) == 1 else Sequence(tuple(items))
+
+    def suffixed(self) -> Node:
+        item = self.item()
+        for suffix in "?*+":
+            if self.skip(suffix):
+                return Suffixed(item, suffix)
+        return item
+
+    def item(self) -> Node:
+        lexeme = self.next()
+        if lexeme == "(":
+            group = self.choice()
+            self.expect(")")
+            return group
+        if lexeme == "~":
+            return Inversion(self.item())
+        if lexeme[0] not in "'[":
+            return Name(lexeme)
+        if self.skip(".."):
+            return Literal(f"{spelling(lexeme)} … {spelling(self.next())}")
+        return Literal(spelling(lexeme))
+
+
+def spelling(literal: str) -> str:
+    """What a quoted literal stands for, as it is shown."""
+    text = re.sub(r"\\u([0-9A-F]{4})", r"U+\1", literal[1:-1])
+    return re.sub(r"\\([\\'\]])", r"\1", text)
+
+
+def keyword(node: Node) -> str:
+    """The word that a rule matches in any case, or nothing."""
+    letters = node.items if isinstance(node, Sequence) else (node,)
+    word = ""
+    for letter in letters:
+        if not isinstance(letter, Choice) or len(letter.alternatives) != 2:
+            return ""
+        upper, lower = letter.alternatives
+        if not (isinstance(upper, Literal) and isinstance(lower, Literal)):
+            return ""
+        if len(upper.text) != 1 or upper.text.lower() != lower.text:
+            return ""
+        word += upper.text
+    return word if len(word) > 1 else ""
+
+
+class Draughtsman:
+    def __init__(self, keywords: dict[str, str]) -> None:
+        self.keywords = keywords
+
+    def draw(self, node: Node) -> railroad.DiagramItem:
+        if isinstance(node, Name):
+            if node.text in self.keywords:
+                return railroad.Terminal(self.keywords[node.text])
+            return railroad.NonTerminal(node.text.removeprefix("oC_"))
+        if isinstance(node, Literal):
+            return railroad.Terminal(node.text)
+        if isinstance(node, Inversion):
+            return self.inversion(node.item)
+        if isinstance(node, Suffixed):
+            return self.suffixed(node)
+        if isinstance(node, Sequence):
+            return self.sequence(node.items)
+        return self.choice(node.alternatives)
+
+    def inversion(self, item: Node) -> railroad.DiagramItem:
+        excluded = item.alternatives if isinstance(item, Choice) else (item,)
+        names = [self.keywords.get(each.text, each.text) for each in excluded]
+        return railroad.NonTerminal("any but " + " and ".join(names))
+
+    def suffixed(self, node: Suffixed) -> railroad.DiagramItem:
+        if node.suffix == "?" and node.item == Name("SP"):
+            return railroad.Comment("SP?")
+        if node.suffix == "?":
+            return railroad.Optional(self.draw(node.item))
+        loop = railroad.OneOrMore(self.draw(node.item))
+        return loop if node.suffix == "+" else railroad.Optional(loop)
+
+    def choice(self, alternatives: tuple[Node, ...]) -> railroad.DiagramItem:
+        drawn = [self.draw(alternative) for alternative in alternatives]
+        if len(drawn) <= 2 * MEMBERS_IN_A_COLUMN:
+            return railroad.Choice(0, *drawn)
+        columns = [
+            railroad.Choice(0, *drawn[first : first + MEMBERS_IN_A_COLUMN])
+            for first in range(0, len(drawn), MEMBERS_IN_A_COLUMN)
+        ]
+        return railroad.HorizontalChoice(*columns)
+
+    def sequence(self, items: tuple[Node, ...]) -> railroad.DiagramItem:
+        drawn = []
+        for index, item in enumerate(items):
+            separators = separators_of(item, items[index - 1]) if index > 0 else None
+            if separators is None:
+                drawn.append(self.draw(item))
+            else:
+                drawn[-1] = railroad.OneOrMore(drawn[-1], self.backwards(separators))
+        return drawn[0] if len(drawn) == 1 else railroad.Sequence(*drawn)
+
+    def backwards(self, separators: list[tuple[Node, ...]]) -> railroad.DiagramItem:
+        """The way back in a loop, which is travelled from right to left."""
+        ways = [railroad.Sequence(*(self.draw(item) for item in reversed(way))) for way in separators]
+        return ways[0] if len(ways) == 1 else railroad.Choice(0, *ways)
+
+
+def separators_of(loop: Node, item: Node) -> Union[list[tuple[Node, ...]], None]:
+    """If `loop` after `item` has the form ( separator item )*, the separators of its alternatives."""
+    if not isinstance(loop, Suffixed) or loop.suffix != "*":
+        return None
+    ways = loop.item.alternatives if isinstance(loop.item, Choice) else (loop.item,)
+    if all(isinstance(way, Sequence) and way.items[-1] == item for way in ways):
+        return [way.items[:-1] for way in ways]
+    return None
+
+
+def svg(item: railroad.DiagramItem) -> str:
+    pieces: list[str] = []
+    diagram = railroad.Diagram(item, css=STYLE)
+    diagram.format(paddingTop=10)
+    diagram.writeSvg(pieces.append)
+    return smaller("".join(pieces))
+
+
+def smaller(text: str) -> str:
+    """The same picture with one path in place of hundreds, and without groups."""
+    path = "".join(re.findall(r'<path d="([^"]*)"', text))
+    path = re.sub(r"\.0\b", "", path.replace("h0.0", ""))
+    path = re.sub(r"M[\d.]+ [\d.]+(?=M)", "", path)
+    text = re.sub(r"<path [^>]*></path>|<path [^>]*/>|\n", "", text)
+    text = re.sub(r'<g class="terminal ">\s*<rect', '<rect class="terminal"', text)
+    text = re.sub(r"</?g[^>]*>|</rect>|/\* (<!\[CDATA\[|\]\]>) \*/", "", text)
+    text = re.sub(r"(<rect [^>]*)>", r"\1/>", text)
+    text = re.sub(r' xmlns:xlink="[^"]*"| class="railroad-diagram"', "", text)
+    return re.sub("</style>", f'</style><path d="{path}"/>', text, count=1) + "\n"
+
+
+def diagrams() -> dict[str, str]:
+    """The diagrams by rule, in the order of the grammar."""
+    rules = dict(Reader(GRAMMAR.read_text(encoding="utf-8")).rules())
+    keywords = {name: keyword(body) for name, body in rules.items() if keyword(body)}
+    draughtsman = Draughtsman(keywords)
+    return {
+        name: svg(draughtsman.draw(body))
+        for name, body in rules.items()
+        if name not in keywords and name not in NOT_DRAWN
+    }
+
+
+def listing(names: list[str]) -> str:
+    """The part of the document that shows the diagrams."""
+    parts = []
+    for name in names:
+        parts.append(f"#### {name.removeprefix('oC_')}\n\n![{name}](language/{name}.svg)\n")
+    return "\n".join(parts)
+
+
+def with_listings(document: str, names: list[str]) -> str:
+    parser_rules = [name for name in names if name.startswith("oC_")]
+    tokens = [name for name in names if not name.startswith("oC_")]
+    for title, listed in (("parser rules", parser_rules), ("tokens", tokens)):
+        marked = re.compile(rf"(<!-- begin {title}: [^\n]*-->\n).*?(<!-- end {title} -->)", re.DOTALL)
+        document, replaced = marked.subn(
+            lambda match, text=listing(listed): f"{match[1]}\n{text}\n{match[2]}", document
+        )
+        if replaced != 1:
+            raise SystemExit(f"draw_rules.py: language.md needs one pair of marker lines for {title}.")
+    return document
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser(description="Draws the rules of the grammar as railroad diagrams.")
+    parser.add_argument("--check", action="store_true", help="write nothing, fail if a diagram is out of date")
+    arguments = parser.parse_args()
+    drawn = diagrams()
+    wanted = {DIAGRAMS / f"{name}.svg": text for name, text in drawn.items()}
+    wanted[DOCUMENT] = with_listings(DOCUMENT.read_text(encoding="utf-8"), list(drawn))
+    present = {file: file.read_text(encoding="utf-8") for file in [*DIAGRAMS.glob("*.svg"), DOCUMENT]}
+    if arguments.check:
+        if present != wanted:
+            print("draw_rules.py: docs/language is out of date; run make docs.", file=sys.stderr)
+            return 1
+        return 0
+    DIAGRAMS.mkdir(exist_ok=True)
+    for file in present.keys() - wanted.keys():
+        file.unlink()
+    for file, text in wanted.items():
+        file.write_text(text, encoding="utf-8")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,232 @@
+"""Everything that the documents show works as it stands there.
+
+    documents_test.py SOURCE_FOLDER BUILD_FOLDER COMPILER
+
+The blocks of a document are worked off in order, in a copy of the sources of its own:
+
+    cpp      a program: written into the file that its first line names, or else compiled and run
+    sh       run; `make` only shows that the target exists, since the targets have their own runs
+    text     after a block of commands, what they print; elsewhere a picture
+    console  commands behind a $, each with what it prints
+
+Tables of examples are checked too; the class Examples knows them by the titles of their columns.
+"""
+
+import json
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+from typing import Any, Callable
+
+from markdown import Block, Document, spans
+
+SOURCE, BUILD = (pathlib.Path(argument) for argument in sys.argv[1:3])
+COMPILER = sys.argv[3]
+DOCUMENTS = sorted([*SOURCE.glob("*.md"), *SOURCE.glob("docs/*.md")])
+# Blocks that are tested elsewhere, or are no commands.
+OTHER_LANGUAGES = {"exports", "mermaid"}
+
+INSPECT = BUILD / "vorn-inspect"
+
+
+def copy_sources(folder: pathlib.Path) -> None:
+    shutil.copytree(SOURCE, folder, ignore=shutil.ignore_patterns("build", ".git", "__pycache__"))
+    (folder / "build").mkdir()
+
+
+class Scratch:
+    """A copy of the sources in which the blocks of one document are worked off."""
+
+    def __init__(self, folder: pathlib.Path) -> None:
+        self.folder = folder / "VornLib"
+        copy_sources(self.folder)
+        (self.folder / "build" / "release").symlink_to(BUILD)
+        self.environment = dict(os.environ, LC_ALL="C.UTF-8", CXX=COMPILER)
+
+    def run(self, commands: str) -> str:
+        prelude = f"make() {{ command make -C '{SOURCE}' -n \"$@\" >/dev/null; }}\n"
+        result = subprocess.run(
+            ["sh", "-e", "-c", prelude + commands],
+            cwd=self.folder,
+            env=self.environment,
+            stdin=subprocess.DEVNULL,
+            capture_output=True,
+            text=True,
+            encoding="utf-8",
+        )
+        # What a terminal would show, as far as the order of the two does not matter.
+        output = result.stdout + result.stderr
+        assert result.returncode == 0, f"{commands}\n{output}"
+        return output
+
+    def write_program(self, text: str) -> None:
+        name = re.match(r"// (\S+\.(?:cpp|h))\n", text)
+        if name:
+            (self.folder / name[1]).write_text(text, encoding="utf-8")
+        else:
+            self.run_fragment(text)
+
+    def run_fragment(self, text: str) -> None:
+        """Compiles statements as a program of their own, and runs it."""
+        includes = "".join(re.findall(r"(?m)^#include.*\n", text))
+        statements = re.sub(r"(?m)^#include.*\n", "", text)
+        (self.folder / "fragment.cpp").write_text(
+            f"{includes}#include <vorn/vorn.h>\nint main() {{\n{statements}}}\n", encoding="utf-8"
+        )
+        self.install_headers()
+        self.run(
+            f"'{COMPILER}' -std=c++17 -Wall -Wextra -Wno-unused-variable -Werror -Iinstalled fragment.cpp"
+            " -Lbuild/release -lVornLib -Wl,-rpath,build/release -o fragment && ./fragment"
+        )
+
+    def install_headers(self) -> None:
+        """The headers where an installed library has them."""
+        shutil.copytree(self.folder / "include", self.folder / "installed", dirs_exist_ok=True)
+        for header in (self.folder / "strings").glob("*.h"):
+            target = self.folder / "installed" / "vorn" / "strings" / header.name
+            target.parent.mkdir(exist_ok=True)
+            shutil.copy(header, target)
+
+
+def sessions(text: str) -> list[tuple[str, str]]:
+    """The commands of a console block, each with its output. A command may go on after a backslash."""
+    pieces = re.split(r"(?m)^\$ ", text)[1:]
+    split = [re.match(r"((?:.*\\\n)*.*\n)((?:.|\n)*)", piece) for piece in pieces]
+    return [(match[1], match[2]) for match in split if match]
+
+
+class Blocks(unittest.TestCase):
+    maxDiff = None
+
+    def work_off(self, document: Document) -> None:
+        with tempfile.TemporaryDirectory() as folder:
+            scratch = Scratch(pathlib.Path(folder))
+            output = None
+            for block in document.blocks():
+                with self.subTest(document=document.path.name, line=block.line):
+                    output = self.work_off_block(block, scratch, output)
+
+    def work_off_block(self, block: Block, scratch: Scratch, output: Any) -> Any:
+        """Returns what the block printed if what it should print is to follow."""
+        if block.language == "sh":
+            return scratch.run(block.text)
+        if block.language == "console":
+            for command, shown in sessions(block.text):
+                self.assertEqual(scratch.run(command), shown)
+        elif block.language == "text":
+            if output is not None:
+                self.assertEqual(output, block.text)
+        elif block.language == "cpp":
+            scratch.write_program(block.text)
+        else:
+            self.assertIn(block.language, OTHER_LANGUAGES)
+        return None
+
+    def test_work_as_they_stand_there(self) -> None:
+        for path in DOCUMENTS:
+            self.work_off(Document(path))
+
+
+class Prose(unittest.TestCase):
+    def test_names_the_make_targets_that_exist(self) -> None:
+        makefile = (SOURCE / "Makefile").read_text(encoding="utf-8")
+        for path in DOCUMENTS:
+            for target in re.findall(r"(?:`|^)make ([a-z-]+)", path.read_text(encoding="utf-8"), re.MULTILINE):
+                with self.subTest(document=path.name, target=target):
+                    self.assertRegex(makefile, rf"(?m)^{target}:")
+
+    def test_links_to_files_that_exist(self) -> None:
+        for path in DOCUMENTS:
+            for link in Document(path).links():
+                if not re.match(r"https?:|#", link):
+                    with self.subTest(document=path.name, link=link):
+                        self.assertTrue((path.parent / link.split("#")[0]).exists())
+
+    def test_has_no_code_that_nobody_runs(self) -> None:
+        for path in DOCUMENTS:
+            with self.subTest(document=path.name):
+                self.assertEqual(Document(path).indented_code(), [])
+
+
+def answers(command: str, requests: list[dict[str, Any]]) -> list[dict[str, Any]]:
+    lines = "".join(json.dumps(request) + "\n" for request in requests)
+    result = subprocess.run(
+        [INSPECT, command, "--jsonl"], input=lines.encode(), stdout=subprocess.PIPE, check=True
+    )
+    return [json.loads(line) for line in result.stdout.decode().splitlines()]
+
+
+def columns_of(query: str) -> list[str]:
+    (answer,) = answers("columns", [{"query": query}])
+    return [f"{column['name']}: {column['type']}" for column in answer["columns"]]
+
+
+def unquoted(name: str) -> str:
+    return name.strip("`")
+
+
+def usages_of(expression: str) -> list[str]:
+    """Each access, spelled as the text that it comes from."""
+    (answer,) = answers("usages", [{"expression": expression}])
+    return [
+        ".".join(map(unquoted, [usage["name"], *access["propertyPath"]]))
+        + "".join(f":{unquoted(label)}" for label in access["labels"])
+        for usage in answer["usages"]
+        for access in usage["accesses"]
+    ]
+
+
+def renamed(expression: str) -> list[str]:
+    (answer,) = answers("rename", [{"expression": expression, "renames": {"n": "m"}}])
+    return [answer["expression"]]
+
+
+class Examples(unittest.TestCase):
+    """The tables of examples."""
+
+    def check_all(self, command: str, member: str, title: str, accepted: bool) -> None:
+        rows = [row for path in DOCUMENTS for row in Document(path).rows() if title in row.cells]
+        self.assertTrue(rows)
+        for row in rows:
+            for example in spans(row.cells[title]):
+                with self.subTest(line=row.line, example=example):
+                    (answer,) = answers(command, [{member: example}])
+                    self.assertEqual("error" not in answer and answer.get("status", 0) == 0, accepted, answer)
+
+    def test_of_queries_that_are_accepted(self) -> None:
+        self.check_all("columns", "query", "Accepted query", True)
+
+    def test_of_queries_that_are_refused(self) -> None:
+        self.check_all("columns", "query", "Refused query", False)
+
+    def test_of_filters_that_are_accepted(self) -> None:
+        self.check_all("usages", "expression", "Accepted filter", True)
+
+    def test_of_filters_that_are_refused(self) -> None:
+        self.check_all("usages", "expression", "Refused filter", False)
+
+    def check_answers(self, question: str, title: str, ask: Callable[[str], list[str]]) -> None:
+        rows = [row for path in DOCUMENTS for row in Document(path).rows() if title in row.cells]
+        self.assertTrue(rows)
+        for row in rows:
+            with self.subTest(line=row.line):
+                (text,) = spans(row.cells[question])
+                self.assertEqual(ask(text), spans(row.cells[title]))
+
+    def test_of_columns(self) -> None:
+        self.check_answers("Query", "Columns", columns_of)
+
+    def test_of_usages(self) -> None:
+        self.check_answers("Filter", "Usages", usages_of)
+
+    def test_of_renaming(self) -> None:
+        self.check_answers("Filter", "Renamed from n to m", renamed)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
