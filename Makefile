@@ -51,13 +51,15 @@ check-grammar: ## fail if grammar/generated/ is not what grammar/Cypher.g4 gives
 	@grammar/unicode_sets.py --check
 	@tools/generate-recognisers.sh --check
 
-docs: ## draw the railroad diagrams of docs/language.md anew
+docs: ## draw the diagrams of docs/language.md anew, render the header in build/docs
 	@tools/install-packages.sh docs
 	@docs/draw_rules.py
+	@tools/render-header.sh
 
-check-docs: ## fail if the diagrams are not what grammar/Cypher.g4 gives
+check-docs: ## fail if a diagram is out of date or the header is not fully documented
 	@tools/install-packages.sh docs
 	@docs/draw_rules.py --check
+	@tools/render-header.sh
 
 lint: setup $(BUILD)/build.ninja ## check the format and run clang-tidy
 	@tools/install-packages.sh lint

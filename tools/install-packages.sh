@@ -16,7 +16,7 @@ case "${1-}" in
                      libcli11-dev nlohmann-json3-dev libutf8proc-dev
                      libgtest-dev librapidcheck-dev locales" ;;
     grammar) packages="python3 unicode-data maven default-jre-headless" ;;
-    docs) packages="python3 python3-railroad-diagrams" ;;
+    docs) packages="python3 python3-railroad-diagrams doxygen" ;;
     lint) packages="clang-format clang-tidy" ;;
     windows) packages="g++-mingw-w64-x86-64-posix wine64 cmake ninja-build python3 xz-utils
                        googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev" ;;

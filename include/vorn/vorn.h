@@ -36,6 +36,7 @@
 ///   shape of text, and stay. A text that nests deeply can also take time that grows faster than
 ///   its length. So bound the length of what a stranger may send.
 
+/// @cond
 #if defined(_WIN32)
 #if defined(VornLib_EXPORTS)
 #define VORN_API __declspec(dllexport)
@@ -45,7 +46,9 @@
 #else
 #define VORN_API __attribute__((visibility("default")))
 #endif
+/// @endcond
 
+/// What the library offers a host.
 namespace vorn {
 
 /// One UTF-16 code unit: `wchar_t` on Windows, where it has 16 bits, and `char16_t` elsewhere.
@@ -114,6 +117,7 @@ struct VariableAccess {
   friend bool operator<(const VariableAccess& left, const VariableAccess& right) {
     return std::tie(left.propertyPath, left.labels) < std::tie(right.propertyPath, right.labels);
   }
+  /// The same path and the same labels.
   friend bool operator==(const VariableAccess& left, const VariableAccess& right) {
     return left.propertyPath == right.propertyPath && left.labels == right.labels;
   }
@@ -162,8 +166,8 @@ VORN_API std::map<WideString, VariableUsage> GetVariableUsagesInPropertyFilterOC
 /// by GetVariableUsagesInPropertyFilterOCExpression.
 ///
 /// @param expression  The text of the filter. It is only read.
-/// @param renames  New names by old names. Back quotes around an old name make no difference, nor
-///         do those around a variable in the text. A new name that begins with a back quote is used
+/// @param renames     New names by old names. Back quotes make no difference, neither around an old
+///         name nor around a variable in the text. A new name that begins with a back quote is used
 ///         as it is, unchecked; any other one, be it empty, is put between back quotes, those
 ///         inside it doubled. If two old names mean one variable, the later one in the map's order
 ///         wins.
