@@ -1,0 +1,59 @@
+// Counts the instructions of every single call. Runs under callgrind, which writes one dump for
+// each and names it by what was called:
+//
+//   valgrind --tool=callgrind --instr-atstart=no vorn-count-instructions TEXTS SUBJECT...
+
+#include <valgrind/callgrind.h>
+
+#include <exception>
+#include <iostream>
+#include <string>
+
+#include "corpus/Corpus.h"
+#include "subjects/Subject.h"
+
+namespace {
+
+using Subjects = std::vector<std::unique_ptr<Subject>>;
+
+void fillTables(const std::vector<Text>& texts, const Subject& subject) {
+  for (const Text& text : texts) {
+    for (const Subject::Function function : functionsFor(text)) {
+      subject.call(function, text);
+    }
+  }
+}
+
+void count(const std::vector<Text>& texts, const Subject& subject) {
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    for (const Subject::Function function : functionsFor(texts[i])) {
+      const std::string name = subject.name + '\t' + nameOf(function) + '\t' + std::to_string(i);
+      CALLGRIND_ZERO_STATS;
+      subject.call(function, texts[i]);
+      CALLGRIND_DUMP_STATS_AT(name.c_str());
+    }
+  }
+}
+
+void run(const std::vector<std::string>& arguments) {
+  const std::vector<Text> texts = readTexts(arguments.at(0));
+  for (std::size_t i = 1; i < arguments.size(); ++i) {
+    const std::unique_ptr<Subject> subject = makeSubject(arguments[i]);
+    fillTables(texts, *subject);
+    CALLGRIND_START_INSTRUMENTATION;
+    count(texts, *subject);
+    CALLGRIND_STOP_INSTRUMENTATION;
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    run({argv + 1, argv + argc});
+    return 0;
+  } catch (const std::exception& error) {
+    std::cerr << "vorn-count-instructions: " << error.what() << '\n';
+    return 1;
+  }
+}
