@@ -28,8 +28,10 @@ class GuardedLexer final : public CypherLexer {
 /// would make a call a tenth slower.
 class GuardedParser final : public CypherParser {
  public:
-  GuardedParser(antlr4::TokenStream* input, NestingGuard& itsGuard)
+  GuardedParser(antlr4::TokenStream* input, NestingGuard& itsGuard,
+                std::pmr::memory_resource& nodeMemory)
       : CypherParser(input), guard(itsGuard) {
+    _tracker.takeNodesFrom(nodeMemory);
     guard.watch(*this);
   }
 

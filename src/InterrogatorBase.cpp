@@ -27,7 +27,7 @@ InterrogatorBase::InterrogatorBase(const WideString& text)
       lexer(std::make_unique<GuardedLexer>(inputStream.get(), guard)) {
   makeErrorsFatal(*lexer);
   tokenStream = std::make_unique<antlr4::CommonTokenStream>(lexer.get());
-  parser = std::make_unique<GuardedParser>(tokenStream.get(), guard);
+  parser = std::make_unique<GuardedParser>(tokenStream.get(), guard, nodeMemory);
   makeErrorsFatal(*parser);
 }
 

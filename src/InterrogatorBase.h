@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <memory_resource>
 #include <string>
 
 #include "NestingGuard.h"
@@ -30,6 +31,9 @@ class InterrogatorBase {
   explicit InterrogatorBase(const WideString& text);
 
   NestingGuard guard;  // the first, so that nothing is done on a stack that has no room left
+  // Holds the nodes of the parse tree, which are released together.
+  std::pmr::monotonic_buffer_resource nodeMemory;
+
   // Each refers to the one before it, so the order of construction and destruction matters.
   std::string utf8Text;
   std::unique_ptr<antlr4::ANTLRInputStream> inputStream;

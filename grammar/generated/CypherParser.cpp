@@ -8,6 +8,7 @@
 
 
 #undef NULL
+#include <memory_resource>
 
 
 using namespace antlrcpp;

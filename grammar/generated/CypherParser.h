@@ -8,6 +8,7 @@
 
 
 #undef NULL
+#include <memory_resource>
 
 
 namespace vorn {
@@ -94,6 +95,46 @@ public:
   const antlr4::dfa::Vocabulary& getVocabulary() const override;
 
   antlr4::atn::SerializedATNView getSerializedATN() const override;
+
+
+    class NodeTracker {
+     public:
+      NodeTracker() = default;
+      NodeTracker(const NodeTracker&) = delete;
+      NodeTracker& operator=(const NodeTracker&) = delete;
+      ~NodeTracker() {
+        for (antlr4::tree::ParseTree* node : nodes) {
+          if (memory == nullptr) {
+            delete node;
+          } else if (node != nullptr) {
+            node->~ParseTree();
+          }
+        }
+      }
+
+      void takeNodesFrom(std::pmr::memory_resource& source) { memory = &source; }
+
+      template <typename Node, typename... Arguments>
+      Node* createInstance(Arguments... arguments) {
+        nodes.push_back(nullptr);
+        Node* node = nullptr;
+        if (memory == nullptr) {
+          nodes.back() = node = new Node(arguments...);
+        } else {
+          nodes.back() = node =
+              new (memory->allocate(sizeof(Node), alignof(Node))) Node(arguments...);
+          // Most nodes have one to three children, and the heap's smallest block holds three.
+          node->children.reserve(3);
+        }
+        return node;
+      }
+
+     private:
+      std::pmr::memory_resource* memory = nullptr;
+      std::vector<antlr4::tree::ParseTree*> nodes;
+    };
+
+    NodeTracker _tracker;
 
 
   class OC_CypherContext;
