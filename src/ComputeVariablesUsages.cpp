@@ -20,6 +20,7 @@ namespace {
 std::string forbiddenElementMessage(const std::string& typeName,
                                     const antlr4::ParserRuleContext* context) {
   std::ostringstream message;
+  message.exceptions(std::ios_base::badbit);  // or a stream keeps quiet about a failed allocation
   message << "The openCypher element '";
   if (context != nullptr && context->getStart() == context->getStop()) {
     message << context->getStart()->getText();

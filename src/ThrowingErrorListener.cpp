@@ -15,6 +15,7 @@ void ThrowingErrorListener::syntaxError(antlr4::Recognizer* /*recognizer*/,
                                         size_t charPositionInLine, const std::string& message,
                                         std::exception_ptr /*exception*/) {
   std::ostringstream text;
+  text.exceptions(std::ios_base::badbit);  // or a stream keeps quiet about a failed allocation
   // The host's global locale may group digits; the numbers are plain decimals all the same.
   text.imbue(std::locale::classic());
   text << "line " << line << ":" << charPositionInLine << " " << message;
