@@ -2,10 +2,13 @@
 
 #include <ANTLRInputStream.h>
 #include <CommonTokenStream.h>
+#include <atn/LexerATNSimulator.h>
 
 #include <string_view>
 
+#include "FailSafeSimulators.h"
 #include "GuardedRecognisers.h"
+#include "PredictionTables.h"
 #include "ThrowingErrorListener.h"
 #include "platform/StringUtf8ImplDetail.h"
 
@@ -26,9 +29,13 @@ InterrogatorBase::InterrogatorBase(const WideString& text)
       inputStream(std::make_unique<antlr4::ANTLRInputStream>(std::string_view(utf8Text))),
       lexer(std::make_unique<GuardedLexer>(inputStream.get(), guard)) {
   makeErrorsFatal(*lexer);
+  lexer->setInterpreter(
+      new FailSafeLexerSimulator(*lexer, *lexer->getInterpreter<antlr4::atn::LexerATNSimulator>()));
   tokenStream = std::make_unique<antlr4::CommonTokenStream>(lexer.get());
   parser = std::make_unique<GuardedParser>(tokenStream.get(), guard, nodeMemory);
   makeErrorsFatal(*parser);
+  parser->setInterpreter(
+      new FailSafeParserSimulator(*parser, PredictionTables::current(parser->getATN())));
 }
 
 InterrogatorBase::~InterrogatorBase() = default;

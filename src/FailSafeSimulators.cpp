@@ -1,0 +1,185 @@
+#include "FailSafeSimulators.h"
+
+#include <NoViableAltException.h>
+#include <Parser.h>
+#include <ParserRuleContext.h>
+#include <Token.h>
+#include <TokenStream.h>
+#include <atn/ATN.h>
+#include <atn/ATNConfigSet.h>
+#include <atn/DecisionState.h>
+#include <atn/OrderedATNConfigSet.h>
+#include <atn/PredictionMode.h>
+#include <dfa/DFA.h>
+
+#include <utility>
+#include <vector>
+
+namespace vorn {
+
+using antlr4::atn::ATN;
+using antlr4::atn::ATNConfigSet;
+using antlr4::atn::PredictionModeClass;
+using antlr4::dfa::DFA;
+using antlr4::dfa::DFAState;
+
+FailSafeParserSimulator::FailSafeParserSimulator(antlr4::Parser& ofParser,
+                                                 std::shared_ptr<PredictionTables> someTables)
+    : ParserATNSimulator(&ofParser, ofParser.getATN(), someTables->decisions, someTables->contexts),
+      tables(std::move(someTables)) {}
+
+// The runtime enters the state first and then does what may fail, while the caller still owns it.
+DFAState* FailSafeParserSimulator::addDFAState(DFA& dfa, DFAState* state) {
+  try {
+    return ParserATNSimulator::addDFAState(dfa, state);
+  } catch (...) {
+    const auto entered = dfa.states.find(state);
+    if (entered != dfa.states.end() && *entered == state) {
+      dfa.states.erase(entered);
+    }
+    throw;
+  }
+}
+
+// As in the runtime, but the new state has an owner until it is entered. The grammar has no
+// predicates.
+DFAState* FailSafeParserSimulator::computeTargetState(DFA& dfa, DFAState* previous, size_t symbol) {
+  std::unique_ptr<ATNConfigSet> reach = computeReachSet(previous->configs.get(), symbol, false);
+  if (reach == nullptr) {
+    return addDFAEdge(dfa, previous, static_cast<ssize_t>(symbol), ERROR.get());
+  }
+  auto target = std::make_unique<DFAState>(std::move(reach));
+  ATNConfigSet& configs = *target->configs;
+  const size_t predicted = getUniqueAlt(&configs);
+  if (predicted != ATN::INVALID_ALT_NUMBER) {
+    configs.uniqueAlt = predicted;
+    target->isAcceptState = true;
+    target->prediction = predicted;
+  } else if (PredictionModeClass::hasSLLConflictTerminatingPrediction(getPredictionMode(),
+                                                                      &configs)) {
+    configs.conflictingAlts = getConflictingAlts(&configs);
+    target->requiresFullContext = true;
+    target->isAcceptState = true;
+    target->prediction = configs.conflictingAlts.nextSetBit(0);
+  }
+  // Without a state to come from it is entered only.
+  DFAState* const entered = addDFAEdge(dfa, nullptr, static_cast<ssize_t>(symbol), target.get());
+  if (entered == target.get()) {
+    tables->configurations += configs.size();
+    static_cast<void>(target.release());  // the table's from here on
+  }
+  return addDFAEdge(dfa, previous, static_cast<ssize_t>(symbol), entered);
+}
+
+// As in the runtime, but without its copies of the configurations by predicates, of which the
+// grammar has none.
+size_t FailSafeParserSimulator::execATN(DFA& dfa, DFAState* start, antlr4::TokenStream* input,
+                                        size_t startIndex,
+                                        antlr4::ParserRuleContext* outerContext) {
+  DFAState* previous = start;
+  size_t symbol = input->LA(1);
+  while (true) {
+    DFAState* target = getExistingTargetState(previous, symbol);
+    if (target == nullptr) {
+      target = computeTargetState(dfa, previous, symbol);
+    }
+    if (target == ERROR.get()) {
+      return finishedAlternative(previous->configs.get(), input, startIndex, outerContext);
+    }
+    if (target->requiresFullContext) {
+      const std::unique_ptr<ATNConfigSet> fullStart =
+          computeStartState(dfa.atnStartState, outerContext, true);
+      reportAttemptingFullContext(dfa, antlrcpp::BitSet(), target->configs.get(), startIndex,
+                                  input->index());
+      return execATNWithFullContext(dfa, target, fullStart.get(), input, startIndex, outerContext);
+    }
+    if (target->isAcceptState) {
+      return target->prediction;
+    }
+    previous = target;
+    if (symbol != antlr4::Token::EOF) {
+      input->consume();
+      symbol = input->LA(1);
+    }
+  }
+}
+
+// The alternative that was complete where the text went on with nothing that fits, or the error.
+size_t FailSafeParserSimulator::finishedAlternative(ATNConfigSet* configs,
+                                                    antlr4::TokenStream* input, size_t startIndex,
+                                                    antlr4::ParserRuleContext* outerContext) {
+  // Nobody looks at the configurations of the error.
+  antlr4::NoViableAltException error = noViableAlt(input, outerContext, nullptr, startIndex, false);
+  input->seek(startIndex);
+  const size_t alternative = getAltThatFinishedDecisionEntryRule(configs);
+  if (alternative == ATN::INVALID_ALT_NUMBER) {
+    throw error;
+  }
+  return alternative;
+}
+
+// As in the runtime, but the sets in between have an owner.
+size_t FailSafeParserSimulator::execATNWithFullContext(DFA& dfa, DFAState* state,
+                                                       ATNConfigSet* start,
+                                                       antlr4::TokenStream* input,
+                                                       size_t startIndex,
+                                                       antlr4::ParserRuleContext* outerContext) {
+  std::unique_ptr<ATNConfigSet> owned;
+  ATNConfigSet* previous = start;
+  input->seek(startIndex);
+  size_t symbol = input->LA(1);
+  while (true) {
+    std::unique_ptr<ATNConfigSet> reach = computeReachSet(previous, symbol, true);
+    if (reach == nullptr) {
+      return finishedAlternative(previous, input, startIndex, outerContext);
+    }
+    owned = std::move(reach);
+    previous = owned.get();
+    previous->uniqueAlt = getUniqueAlt(previous);
+    if (previous->uniqueAlt != ATN::INVALID_ALT_NUMBER) {
+      reportContextSensitivity(dfa, previous->uniqueAlt, previous, startIndex, input->index());
+      return previous->uniqueAlt;
+    }
+    const size_t predicted = PredictionModeClass::resolvesToJustOneViableAlt(
+        PredictionModeClass::getConflictingAltSubsets(previous));
+    if (predicted != ATN::INVALID_ALT_NUMBER) {
+      reportAmbiguity(dfa, state, startIndex, input->index(), false, previous->getAlts(), previous);
+      return predicted;
+    }
+    if (symbol != antlr4::Token::EOF) {
+      input->consume();
+      symbol = input->LA(1);
+    }
+  }
+}
+
+FailSafeLexerSimulator::FailSafeLexerSimulator(antlr4::Lexer& ofLexer,
+                                               const LexerATNSimulator& other)
+    : LexerATNSimulator(&ofLexer, other.atn, other._decisionToDFA, other.getSharedContextCache()) {}
+
+// As in the runtime, but the set has an owner while it is filled.
+DFAState* FailSafeLexerSimulator::computeTargetState(antlr4::CharStream* input, DFAState* previous,
+                                                     size_t symbol) {
+  auto reach = std::make_unique<antlr4::atn::OrderedATNConfigSet>();
+  getReachableConfigSet(input, previous->configs.get(), reach.get(), symbol);
+  if (!reach->isEmpty()) {
+    return addDFAEdge(previous, symbol, reach.release());
+  }
+  if (!reach->hasSemanticContext) {
+    addDFAEdge(previous, symbol, ERROR.get());
+  }
+  return ERROR.get();
+}
+
+// The runtime takes the set over and loses it if there is no memory for the state or its entry in
+// the table. The state itself, without the set, is lost in the second case all the same.
+DFAState* FailSafeLexerSimulator::addDFAState(ATNConfigSet* configs, bool suppressEdge) {
+  try {
+    return LexerATNSimulator::addDFAState(configs, suppressEdge);
+  } catch (...) {
+    delete configs;
+    throw;
+  }
+}
+
+}  // namespace vorn

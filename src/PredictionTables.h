@@ -1,0 +1,32 @@
+#pragma once
+
+#include <atn/PredictionContextCache.h>
+#include <dfa/DFA.h>
+
+#include <atomic>
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace antlr4::atn {
+class ATN;
+}  // namespace antlr4::atn
+
+namespace vorn {
+
+/// What the parser remembers of its predictions. All calls share one object, which grows with every
+/// new shape of text. Once it is too big, the next call starts a new one, and the old one goes with
+/// the last call that uses it. So the memory stays bounded, and nobody waits.
+class PredictionTables {
+ public:
+  explicit PredictionTables(const antlr4::atn::ATN& atn);
+
+  /// The tables for a call that begins.
+  static std::shared_ptr<PredictionTables> current(const antlr4::atn::ATN& atn);
+
+  std::vector<antlr4::dfa::DFA> decisions;
+  antlr4::atn::PredictionContextCache contexts;
+  std::atomic<std::size_t> configurations{0};
+};
+
+}  // namespace vorn
