@@ -1,0 +1,48 @@
+#pragma once
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdio>
+#include <exception>
+#include <string>
+
+/// Runs the function in a process of its own, where it may do what a process does only once, and
+/// returns the text that it returns. An exception or a signal that ends it adds a line about
+/// itself. Nothing is done of what programs do at their end.
+template <typename Function>
+std::string inChildProcess(const Function& function) {
+  int ends[2];  // NOLINT(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays): pipe's
+  if (::pipe(ends) != 0) {
+    return "no pipe";
+  }
+  const pid_t child = ::fork();
+  if (child < 0) {
+    return "no process";
+  }
+  if (child == 0) {
+    std::string text;
+    try {
+      text = function();
+    } catch (const std::exception& exception) {
+      text = std::string("exception: ") + exception.what();
+    }
+    const ssize_t written = ::write(ends[1], text.data(), text.size());
+    ::_exit(written == static_cast<ssize_t>(text.size()) ? 0 : 1);
+  }
+  ::close(ends[1]);
+  std::string text;
+  for (char byte = 0; ::read(ends[0], &byte, 1) == 1;) {
+    text += byte;
+  }
+  ::close(ends[0]);
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  if (WIFSIGNALED(status)) {
+    text += "signal " + std::to_string(WTERMSIG(status));
+  } else if (WEXITSTATUS(status) != 0) {
+    text += "exit code " + std::to_string(WEXITSTATUS(status));
+  }
+  return text;
+}

@@ -1,0 +1,151 @@
+// Every allocation that a call makes may fail. Then the call fails in its own way, and the
+// next call is answered as if nothing had been.
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "robustness/ChildProcess.h"
+#include "robustness/FailingNew.h"
+#include "robustness/LoadedLibrary.h"
+#include "robustness/Questions.h"
+#include "robustness/RandomTexts.h"
+
+namespace {
+
+// In a few places the runtime loses what it holds by a plain pointer: the state that it is about to
+// enter in the lexer's tables, a node of the tree.
+constexpr std::ptrdiff_t mostLost = 3;
+constexpr std::size_t oneInThisManyFailuresMayLose = 12;
+
+const std::string outOfMemory = "failed: std::bad_alloc";
+const std::string outOfMemoryForColumns = "status 1, from before the call 0";
+
+// A first call makes some 100,000 allocations. All of them take an hour and have a make target.
+std::size_t step() { return std::getenv("VORN_EVERY_ALLOCATION") == nullptr ? 499 : 1; }
+
+struct Attempt {
+  std::string answer;
+  std::size_t allocations;
+};
+
+Attempt ask(const Calls& calls, const Question& question, std::size_t failing) {
+  Attempt attempt{"", 0};
+  FailingNew::failAt(failing);
+  try {
+    attempt.answer = answer(calls, question);
+  } catch (const std::bad_alloc&) {
+    attempt.answer = outOfMemory;
+  }
+  attempt.allocations = FailingNew::allocations();
+  FailingNew::failAt(0);
+  return attempt;
+}
+
+// A failure may remain without consequence, where memory would only be saved. The runtime may cut
+// its message short.
+bool isRight(const std::string& actual, const std::string& expected) {
+  return actual == outOfMemory || actual == outOfMemoryForColumns ||
+         (actual == expected.substr(0, actual.size()) && actual.size() > 3);
+}
+
+std::size_t allocationsOfFirstCall(const Question& question) {
+  const LoadedLibrary library;
+  return std::stoul(inChildProcess(
+      [&] { return std::to_string(ask(library.calls(), question, 0).allocations); }));
+}
+
+std::string answerOfFirstCall(const Question& question) {
+  const LoadedLibrary library;
+  return inChildProcess([&] { return answer(library.calls(), question); });
+}
+
+// What is wrong after the first call of a process in which this allocation fails.
+std::string failureInFirstCall(const Question& question, std::size_t failing,
+                               const std::string& expected) {
+  const std::ptrdiff_t before = FailingNew::live();
+  auto library = std::make_unique<LoadedLibrary>();
+  const std::ptrdiff_t loaded = FailingNew::live() - before;
+  return inChildProcess([&]() -> std::string {
+    const std::ptrdiff_t start = FailingNew::live();
+    if (!isRight(ask(library->calls(), question, failing).answer, expected)) {
+      return "it ends otherwise";
+    }
+    if (answer(library->calls(), question) != expected) {
+      return "the next answer is wrong";
+    }
+    library.reset();
+    const std::ptrdiff_t lost = FailingNew::live() - start + loaded;
+    return lost > mostLost ? std::to_string(lost) + " objects are lost" : "";
+  });
+}
+
+class FailingAllocations : public testing::TestWithParam<Question> {};
+
+TEST_P(FailingAllocations, InTheFirstCallOfAProcessLeaveTheNextOneRight) {
+  const std::string expected = answerOfFirstCall(GetParam());
+  const std::size_t all = allocationsOfFirstCall(GetParam());
+  for (std::size_t failing = 1; failing <= all; failing += step()) {
+    ASSERT_EQ(failureInFirstCall(GetParam(), failing, expected), "")
+        << "allocation " << failing << " of " << all;
+  }
+}
+
+TEST_P(FailingAllocations, InALaterCallLeaveTheNextOneRight) {
+  const LoadedLibrary library;
+  const std::string expected = answer(library.calls(), GetParam());
+  const std::size_t all = ask(library.calls(), GetParam(), 0).allocations;
+  std::size_t losing = 0;
+  for (std::size_t failing = 1; failing <= all; ++failing) {
+    const std::ptrdiff_t before = FailingNew::live();
+    const bool right = isRight(ask(library.calls(), GetParam(), failing).answer, expected);
+    const std::ptrdiff_t lost = FailingNew::live() - before;
+    ASSERT_TRUE(right) << "allocation " << failing;
+    ASSERT_LE(lost, mostLost) << "allocation " << failing;
+    losing += lost > 0 ? 1 : 0;
+  }
+  EXPECT_LE(losing, 1 + all / oneInThisManyFailuresMayLose);
+  EXPECT_EQ(answer(library.calls(), GetParam()), expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Questions, FailingAllocations, testing::ValuesIn(questions()));
+
+// The tables that predictions are kept in grow by what every failed call found out.
+TEST(FailuresInARow, LeaveTheTablesSound) {
+  const LoadedLibrary library;
+  std::vector<std::string> expected;
+  for (const Question& question : questions()) {
+    expected.push_back(answerOfFirstCall(question));
+  }
+  answer(library.calls(), {Question::Kind::columns, u"RETURN 1"});
+  for (std::size_t i = 0; i < questions().size(); ++i) {
+    const Question& question = questions()[i];
+    std::size_t failing = 1;
+    while (ask(library.calls(), question, failing).allocations >= failing) {
+      ++failing;
+    }
+    EXPECT_EQ(answer(library.calls(), question), expected[i]) << "question " << i;
+  }
+}
+
+// The count of what is allocated serves here too: with every text an error may end a call
+// elsewhere.
+TEST(Unloading, FreesWhatRandomTextsLeftBehind) {
+  const std::ptrdiff_t before = FailingNew::live();
+  {
+    const LoadedLibrary library;
+    RandomTexts texts(1);
+    for (int i = 0; i < 300; ++i) {
+      const Question question = randomQuestion(texts);
+      answer(library.calls(), question);
+    }
+  }
+  EXPECT_EQ(FailingNew::live(), before);
+}
+
+}  // namespace

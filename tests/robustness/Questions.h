@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "vorn/vorn.h"
+
+/// The three functions, linked or looked up in a loaded library.
+struct Calls {
+  decltype(&vorn::GetOutputNamesAndTypes) columns;
+  decltype(&vorn::GetVariableUsagesInPropertyFilterOCExpression) usages;
+  decltype(&vorn::ReplaceVariableNamesInPropertyFilterOCExpression) renaming;
+};
+
+/// One call that a host may make.
+struct Question {
+  enum class Kind { columns, usages, renaming };
+  Kind kind;
+  vorn::WideString text;
+};
+
+/// What the host gets, be it an exception, in one line that can be compared.
+std::string answer(const Calls& calls, const Question& question);
+
+/// Good and bad texts for all three functions.
+const std::vector<Question>& questions();
+
+/// The names that a question of renaming replaces.
+const std::unordered_map<vorn::WideString, vorn::WideString>& renames();
