@@ -1,0 +1,80 @@
+#include "LargeTexts.h"
+
+namespace {
+
+using vorn::WideString;
+
+WideString repeated(const WideString& piece, std::size_t size) {
+  WideString text;
+  text.reserve(size + piece.size());
+  while (text.size() < size) {
+    text += piece;
+  }
+  return text;
+}
+
+Question query(WideString text) { return {Question::Kind::columns, std::move(text)}; }
+
+// Nesting is bounded by the stack, not by time, so these stay flat or shallow.
+WideString nested(const WideString& open, const WideString& inside, const WideString& close,
+                  std::size_t size) {
+  const std::size_t levels = size / (open.size() + close.size());
+  WideString text;
+  for (std::size_t i = 0; i < levels; ++i) {
+    text += open;
+  }
+  text += inside;
+  for (std::size_t i = 0; i < levels; ++i) {
+    text += close;
+  }
+  return text;
+}
+
+}  // namespace
+
+const std::vector<LargeText>& linearTexts() {
+  static const std::vector<LargeText> texts = {
+      {"white space", [](std::size_t size) { return query(repeated(u" ", size) + u"RETURN 1"); }},
+      {"one comment",
+       [](std::size_t size) { return query(u"/*" + repeated(u"x", size) + u"*/RETURN 1"); }},
+      {"one literal",
+       [](std::size_t size) { return query(u"RETURN '" + repeated(u"x", size) + u"' AS x"); }},
+      {"digits",
+       [](std::size_t size) { return query(u"RETURN " + repeated(u"1", size) + u" AS x"); }},
+      {"RETURN 1, 1, ...",
+       [](std::size_t size) { return query(u"RETURN 1" + repeated(u", 1", size)); }},
+      {"n.a = 1 AND n.a = 1 ...",
+       [](std::size_t size) -> Question {
+         return {Question::Kind::usages, u"n.a = 1" + repeated(u" AND n.a = 1", size)};
+       }},
+      {"MATCH (a) MATCH (a) ...",
+       [](std::size_t size) { return query(repeated(u"MATCH (a) ", size) + u"RETURN a"); }},
+  };
+  return texts;
+}
+
+const std::vector<LargeText>& ambiguousTexts() {
+  static const std::vector<LargeText> texts = {
+      {"RETURN (a)-[b]-(a)-[b]-...",
+       [](std::size_t size) { return query(u"RETURN (a)" + repeated(u"-[b]-(a)", size)); }},
+      {"MATCH (a)-[b]-(a)-[b]-...",
+       [](std::size_t size) {
+         return query(u"MATCH (a)" + repeated(u"-[b]-(a)", size) + u" RETURN a");
+       }},
+      {"RETURN (a)-(a)-(a)-...",
+       [](std::size_t size) { return query(u"RETURN (a)" + repeated(u"-(a)", size)); }},
+      {"RETURN [x IN [x IN ...",
+       [](std::size_t size) { return query(u"RETURN " + nested(u"[x IN ", u"1", u"]", size)); }},
+      {"RETURN EXISTS { EXISTS { ...",
+       [](std::size_t size) {
+         return query(u"RETURN " + nested(u"EXISTS { RETURN ", u"1", u" }", size));
+       }},
+      {"RETURN ((((...",
+       [](std::size_t size) { return query(u"RETURN " + nested(u"(", u"1", u")", size)); }},
+      {"WITH 1 AS a WITH 1 AS a ...",
+       [](std::size_t size) { return query(repeated(u"WITH 1 AS a ", size) + u"RETURN a"); }},
+      {"RETURN 1 UNION RETURN 1 ...",
+       [](std::size_t size) { return query(u"RETURN 1" + repeated(u" UNION RETURN 1", size)); }},
+  };
+  return texts;
+}

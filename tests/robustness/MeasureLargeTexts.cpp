@@ -1,0 +1,63 @@
+// Prints time and peak memory of large texts at growing sizes, each in a process of its own.
+//
+//   measure-large-texts
+
+#include <sys/resource.h>
+
+#include <chrono>
+#include <cstddef>
+#include <iomanip>
+#include <iostream>
+#include <sstream>
+
+#include "robustness/ChildProcess.h"
+#include "robustness/LargeTexts.h"
+
+namespace {
+
+constexpr std::size_t mebibyte = 1 << 20;
+
+std::size_t peakMebibytes() {
+  rusage usage{};
+  ::getrusage(RUSAGE_SELF, &usage);
+  return static_cast<std::size_t>(usage.ru_maxrss) / 1024;
+}
+
+// Status, seconds and mebibytes of one call.
+std::string measured(const LargeText& text, std::size_t size) {
+  return inChildProcess([&] {
+    const Calls library = {&vorn::GetOutputNamesAndTypes,
+                           &vorn::GetVariableUsagesInPropertyFilterOCExpression,
+                           &vorn::ReplaceVariableNamesInPropertyFilterOCExpression};
+    const Question question = text.ofSize(size);
+    const std::size_t before = peakMebibytes();
+    const auto start = std::chrono::steady_clock::now();
+    const std::string answered = answer(library, question).substr(0, 8);
+    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+    std::ostringstream line;
+    line << std::fixed << std::setprecision(3) << seconds.count() << " s\t"
+         << peakMebibytes() - before << " MiB\t" << answered;
+    return line.str();
+  });
+}
+
+void print(const LargeText& text, std::size_t from, std::size_t to, std::size_t factor) {
+  std::cout << text.name << '\n';
+  for (std::size_t size = from; size <= to; size *= factor) {
+    std::cout << "  " << size << '\t' << measured(text, size) << std::endl;
+  }
+}
+
+}  // namespace
+
+int main() {
+  constexpr std::size_t factor = 4;
+  for (std::size_t i = 0; i < linearTexts().size(); ++i) {
+    // The first four are one token each, and so may be larger.
+    const std::size_t largest = i < 4 ? 64 * mebibyte : mebibyte;
+    print(linearTexts()[i], largest / 64, largest, factor);
+  }
+  for (const LargeText& text : ambiguousTexts()) {
+    print(text, 500, 4000, 2);
+  }
+}
