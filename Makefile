@@ -29,6 +29,20 @@ test: setup $(BUILD)/build.ninja ## build everything and run all tests
 	@cmake --build --preset release
 	@ctest --preset release
 
+MILLIONS := 2
+
+soak: setup $(BUILD)/build.ninja ## make MILLIONS of random calls, print the memory at intervals
+	@cmake --build --preset release --target soak
+	@$(BUILD)/tests/robustness/soak $(MILLIONS)
+
+large-texts: setup $(BUILD)/build.ninja ## measure time and memory of large and of ambiguous texts
+	@cmake --build --preset release --target measure-large-texts
+	@$(BUILD)/tests/robustness/measure-large-texts
+
+test-allocations: setup $(BUILD)/build.ninja ## let every allocation of every first call fail (hours)
+	@cmake --build --preset release --target VornLib failing_allocations_test
+	@VORN_EVERY_ALLOCATION=1 $(BUILD)/tests/robustness/failing_allocations_test
+
 windows: ## cross-build library, programs and tests for 64-bit Windows
 	@tools/install-packages.sh windows
 	@tools/fetch-antlr-runtime.sh
