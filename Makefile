@@ -39,7 +39,7 @@ large-texts: setup $(BUILD)/build.ninja ## measure time and memory of large and 
 	@cmake --build --preset release --target measure-large-texts
 	@$(BUILD)/tests/robustness/measure-large-texts
 
-test-allocations: setup $(BUILD)/build.ninja ## let every allocation of every first call fail (hours)
+allocations: setup $(BUILD)/build.ninja ## let every allocation of every first call fail (hours)
 	@cmake --build --preset release --target VornLib failing_allocations_test
 	@VORN_EVERY_ALLOCATION=1 $(BUILD)/tests/robustness/failing_allocations_test
 
