@@ -9,6 +9,9 @@ OWN_CODE = $(shell git ls-files --cached --others --exclude-standard \
              'strings/*.h' 'strings/*.cpp' 'examples/*.h' 'examples/*.cpp' \
              'tests/*.h' 'tests/*.cpp' 'benchmark/*.h' 'benchmark/*.cpp')
 
+SECONDS := 60
+             'tests/*.h' 'tests/*.cpp' 'fuzz/*.h' 'fuzz/*.cpp')
+
 help: ## list these targets
 	@sed -n 's/^\([a-z-]*\):.*## /\1\t/p' $(MAKEFILE_LIST) | expand -t 16
 
@@ -52,6 +55,11 @@ windows: ## cross-build library, programs and tests for 64-bit Windows
 
 windows-test: build windows ## run all tests for 64-bit Windows under Wine
 	@tools/test-under-wine.sh
+fuzz: setup ## run each fuzzer for SECONDS=60
+	@tools/install-packages.sh fuzz
+	@cmake --preset fuzz >/dev/null
+	@cmake --build --preset fuzz --target vorn_fuzzers
+	@tools/fuzz.sh build/fuzz $(SECONDS)
 
 grammar: ## write grammar/generated/ anew from grammar/Cypher.g4
 	@tools/install-packages.sh grammar
@@ -87,3 +95,4 @@ format: ## bring the sources into format
 
 clean: ## remove everything that was built, but not what was downloaded
 	@rm -rf build/release build/debug build/windows build/wine
+	@rm -rf build/release build/debug build/fuzz

@@ -20,6 +20,7 @@ case "${1-}" in
     lint) packages="clang-format clang-tidy" ;;
     windows) packages="g++-mingw-w64-x86-64-posix wine64 cmake ninja-build python3 xz-utils
                        googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev" ;;
+    fuzz) packages="clang-14 libclang-rt-14-dev" ;;
     *) fail "say for which task: one of those in this script." ;;
 esac
 

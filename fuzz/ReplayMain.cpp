@@ -1,0 +1,47 @@
+// Runs a fuzzer's target on files, and on all files of folders, without libFuzzer.
+
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <vector>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+namespace {
+
+void replay(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  const std::vector<char> bytes{std::istreambuf_iterator<char>(in), {}};
+  // Seen only if the process ends here: a test that passes shows nothing.
+  std::printf("%s\n", file.c_str());
+  std::fflush(stdout);
+  LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+}
+
+std::size_t replayAll(const std::filesystem::path& place) {
+  if (std::filesystem::is_regular_file(place)) {
+    replay(place);
+    return 1;
+  }
+  std::size_t count = 0;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(place)) {
+    if (entry.is_regular_file()) {
+      replay(entry.path());
+      ++count;
+    }
+  }
+  return count;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::size_t count = 0;
+  for (int i = 1; i < argc; ++i) {
+    count += replayAll(argv[i]);
+  }
+  std::printf("%zu inputs\n", count);
+  return count == 0 ? 1 : 0;
+}
