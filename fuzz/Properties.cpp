@@ -1,8 +1,8 @@
 #include "Properties.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
+#include <iostream>
 #include <map>
 #include <new>
 #include <set>
@@ -97,7 +97,7 @@ enum class Ending { answered, forbidden, refused, tooDeep };
 
 template <typename Answer>
 struct Outcome {
-  Ending ending;
+  Ending ending = Ending::refused;
   Answer answer;
   std::string message;
 };
@@ -264,7 +264,7 @@ Outcome<WideString> takenIn(const WideString& expression) {
 
 void require(bool holds, const char* property) {
   if (!holds) {
-    std::fprintf(stderr, "\nDoes not hold: %s.\n", property);
+    std::cerr << "\nDoes not hold: " << property << ".\n";
     std::abort();
   }
 }

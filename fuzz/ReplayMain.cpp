@@ -1,9 +1,9 @@
 // Runs a fuzzer's target on files, and on all files of folders, without libFuzzer.
 
 #include <cstdint>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <vector>
 
@@ -15,8 +15,7 @@ void replay(const std::filesystem::path& file) {
   std::ifstream in(file, std::ios::binary);
   const std::vector<char> bytes{std::istreambuf_iterator<char>(in), {}};
   // Seen only if the process ends here: a test that passes shows nothing.
-  std::printf("%s\n", file.c_str());
-  std::fflush(stdout);
+  std::cout << file.string() << std::endl;
   LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
 }
 
@@ -42,6 +41,6 @@ int main(int argc, char** argv) {
   for (int i = 1; i < argc; ++i) {
     count += replayAll(argv[i]);
   }
-  std::printf("%zu inputs\n", count);
+  std::cout << count << " inputs\n";
   return count == 0 ? 1 : 0;
 }
