@@ -15,7 +15,6 @@ WideString repeated(const WideString& piece, std::size_t size) {
 
 Question query(WideString text) { return {Question::Kind::columns, std::move(text)}; }
 
-// Nesting is bounded by the stack, not by time, so these stay flat or shallow.
 WideString nested(const WideString& open, const WideString& inside, const WideString& close,
                   std::size_t size) {
   const std::size_t levels = size / (open.size() + close.size());
@@ -57,24 +56,16 @@ const std::vector<LargeText>& ambiguousTexts() {
   static const std::vector<LargeText> texts = {
       {"RETURN (a)-[b]-(a)-[b]-...",
        [](std::size_t size) { return query(u"RETURN (a)" + repeated(u"-[b]-(a)", size)); }},
-      {"MATCH (a)-[b]-(a)-[b]-...",
-       [](std::size_t size) {
-         return query(u"MATCH (a)" + repeated(u"-[b]-(a)", size) + u" RETURN a");
-       }},
-      {"RETURN (a)-(a)-(a)-...",
-       [](std::size_t size) { return query(u"RETURN (a)" + repeated(u"-(a)", size)); }},
       {"RETURN [x IN [x IN ...",
        [](std::size_t size) { return query(u"RETURN " + nested(u"[x IN ", u"1", u"]", size)); }},
       {"RETURN EXISTS { EXISTS { ...",
        [](std::size_t size) {
          return query(u"RETURN " + nested(u"EXISTS { RETURN ", u"1", u" }", size));
        }},
-      {"RETURN ((((...",
-       [](std::size_t size) { return query(u"RETURN " + nested(u"(", u"1", u")", size)); }},
-      {"WITH 1 AS a WITH 1 AS a ...",
-       [](std::size_t size) { return query(repeated(u"WITH 1 AS a ", size) + u"RETURN a"); }},
-      {"RETURN 1 UNION RETURN 1 ...",
-       [](std::size_t size) { return query(u"RETURN 1" + repeated(u" UNION RETURN 1", size)); }},
+      {"RETURN ((((... around (a)-[b]-(a)",
+       [](std::size_t size) {
+         return query(u"RETURN " + nested(u"(", u"(a)-[b]-(a)", u")", size));
+       }},
   };
   return texts;
 }
