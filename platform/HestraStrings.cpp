@@ -9,9 +9,9 @@
 
 #include "platform/OleStrings.h"
 #include "platform/WideCharacters.h"
-#include "strings/BString.h"
-#include "strings/String.h"
-#include "strings/StringArray.h"
+#include "vorn/strings/BString.h"
+#include "vorn/strings/String.h"
+#include "vorn/strings/StringArray.h"
 
 #if defined(_WIN32)
 #include <windows.h>

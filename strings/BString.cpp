@@ -1,4 +1,4 @@
-#include "strings/BString.h"
+#include "vorn/strings/BString.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "strings/String.h"
+#include "vorn/strings/String.h"
 
 #include <cstring>
 #include <functional>

@@ -1,4 +1,4 @@
-#include "strings/StringArray.h"
+#include "vorn/strings/StringArray.h"
 
 #include <cstddef>
 #include <cstdlib>

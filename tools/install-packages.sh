@@ -14,7 +14,7 @@ fail() {
 case "${1-}" in
     build) packages="g++ cmake ninja-build python3 xz-utils libutfcpp-dev
                      libcli11-dev nlohmann-json3-dev libutf8proc-dev
-                     libgtest-dev librapidcheck-dev locales" ;;
+                     libgtest-dev librapidcheck-dev locales pkg-config" ;;
     grammar) packages="python3 unicode-data maven default-jre-headless" ;;
     docs) packages="python3 python3-railroad-diagrams doxygen" ;;
     lint) packages="clang-format clang-tidy" ;;

@@ -28,8 +28,8 @@
 /// Two things a host should know that reads text of strangers:
 ///
 /// - The parser recurses. A text that nests too deeply for the calling thread's stack is refused by
-///   std::length_error, hence by status 1 from GetOutputNamesAndTypes. With 1 MiB of stack left, 250
-///   levels of any bracket fit; with 8 MiB, 2,000. Where the platform cannot tell how large the
+///   std::length_error, hence by status 1 from GetOutputNamesAndTypes. With 1 MiB of stack left,
+///   250 levels of any bracket fit; with 8 MiB, 2,000. Where the platform cannot tell how large the
 ///   stack is (a coroutine's on Linux), 64 KiB are assumed, enough for a few levels. Less than
 ///   32 KiB is refused whatever the text.
 /// - The tables by which the parser predicts are shared by the process. They grow with every new
@@ -37,7 +37,9 @@
 ///   its length. So bound the length of what a stranger may send.
 
 /// @cond
-#if defined(_WIN32)
+#if defined(VORN_STATIC)
+#define VORN_API
+#elif defined(_WIN32)
 #if defined(VornLib_EXPORTS)
 #define VORN_API __declspec(dllexport)
 #else

@@ -78,19 +78,10 @@ class Scratch:
         (self.folder / "fragment.cpp").write_text(
             f"{includes}#include <vorn/vorn.h>\nint main() {{\n{statements}}}\n", encoding="utf-8"
         )
-        self.install_headers()
         self.run(
-            f"'{COMPILER}' -std=c++17 -Wall -Wextra -Wno-unused-variable -Werror -Iinstalled fragment.cpp"
+            f"'{COMPILER}' -std=c++17 -Wall -Wextra -Wno-unused-variable -Werror -Iinclude fragment.cpp"
             " -Lbuild/release -lVornLib -Wl,-rpath,build/release -o fragment && ./fragment"
         )
-
-    def install_headers(self) -> None:
-        """The headers where an installed library has them."""
-        shutil.copytree(self.folder / "include", self.folder / "installed", dirs_exist_ok=True)
-        for header in (self.folder / "strings").glob("*.h"):
-            target = self.folder / "installed" / "vorn" / "strings" / header.name
-            target.parent.mkdir(exist_ok=True)
-            shutil.copy(header, target)
 
 
 def sessions(text: str) -> list[tuple[str, str]]:

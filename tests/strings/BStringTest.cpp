@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "Strings.h"
-#include "strings/BString.h"
+#include "vorn/strings/BString.h"
 
 using namespace std::string_literals;
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "strings/String.h"
-#include "strings/StringArray.h"
+#include "vorn/strings/String.h"
+#include "vorn/strings/StringArray.h"
 
 // Access is not checked in an explicit instantiation, which lets a host reach a private member that
 // the library exports for it.

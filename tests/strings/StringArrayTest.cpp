@@ -6,7 +6,7 @@
 
 #include "PrivateMembers.h"
 #include "Strings.h"
-#include "strings/StringArray.h"
+#include "vorn/strings/StringArray.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include "PrivateMembers.h"
 #include "Strings.h"
-#include "strings/String.h"
+#include "vorn/strings/String.h"
 
 using namespace std::string_literals;
 

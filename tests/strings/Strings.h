@@ -7,9 +7,9 @@
 #include <string_view>
 #include <type_traits>
 
-#include "strings/BString.h"
-#include "strings/String.h"
 #include "support/Text.h"
+#include "vorn/strings/BString.h"
+#include "vorn/strings/String.h"
 
 using WideView = std::basic_string_view<vorn::WideChar>;
 

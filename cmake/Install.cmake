@@ -1,0 +1,43 @@
+# What an installation holds: library, headers, CMake package, pkg-config file, vorn-inspect. All of it
+# can be moved to another place as a whole.
+include(CMakePackageConfigHelpers)
+
+set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/VornLib")
+set(pkg_config_folder "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+
+install(TARGETS VornLib EXPORT VornLibTargets
+  INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+  FILES_MATCHING PATTERN "*.h")
+if(MINGW)
+  install(FILES ${VORN_COMPILER_RUNTIME} DESTINATION "${CMAKE_INSTALL_BINDIR}")
+endif()
+
+install(EXPORT VornLibTargets NAMESPACE VornLib:: DESTINATION "${package_folder}")
+configure_package_config_file("${CMAKE_CURRENT_LIST_DIR}/VornLibConfig.cmake.in" VornLibConfig.cmake
+  INSTALL_DESTINATION "${package_folder}" NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(VornLibConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES
+  "${CMAKE_CURRENT_BINARY_DIR}/VornLibConfig.cmake"
+  "${CMAKE_CURRENT_BINARY_DIR}/VornLibConfigVersion.cmake"
+  DESTINATION "${package_folder}")
+
+# Where the prefix is, seen from the file itself.
+file(RELATIVE_PATH prefix_from_pkg_config
+  "/prefix/${pkg_config_folder}" "/prefix")
+if(VORN_SHARED)
+  set(pkg_config_definition "")
+  set(pkg_config_libraries "")
+else()
+  set(pkg_config_definition " -DVORN_STATIC")
+  set(pkg_config_libraries " -lstdc++ -pthread")
+endif()
+configure_file("${CMAKE_CURRENT_LIST_DIR}/VornLib.pc.in" VornLib.pc @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/VornLib.pc" DESTINATION "${pkg_config_folder}")
+
+if(VORN_BUILD_EXAMPLES)
+  file(RELATIVE_PATH libraries_from_programs
+    "/prefix/${CMAKE_INSTALL_BINDIR}" "/prefix/${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(vorn-inspect PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
+  install(TARGETS vorn-inspect)
+endif()

@@ -1,0 +1,72 @@
+"""Hosts that know the installed files only build and run, wherever the installation has been moved to.
+
+    installed_test.py BUILD_FOLDER INSTALLED_FOLDER COMPILER VERSION
+"""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import unittest
+
+from minimal_host import HostTest
+
+BUILD, INSTALLED = (pathlib.Path(argument) for argument in sys.argv[1:3])
+HostTest.compiler, VERSION = sys.argv[3:5]
+
+
+def install_and_move() -> None:
+    first = INSTALLED.with_name(INSTALLED.name + ".first")
+    for folder in [first, INSTALLED]:
+        shutil.rmtree(folder, ignore_errors=True)
+    subprocess.run(["cmake", "--install", BUILD, "--prefix", first], check=True, stdout=subprocess.DEVNULL)
+    first.rename(INSTALLED)
+
+
+def next_of(place: int) -> str:
+    """The version that is one higher in this place."""
+    numbers = [int(number) for number in VERSION.split(".")]
+    return ".".join(str(number) for number in [*numbers[:place], numbers[place] + 1])
+
+
+class Installed(HostTest):
+    def find_package(self, version: str) -> None:
+        self.configure("find_package", f"-DCMAKE_PREFIX_PATH={INSTALLED}", f"-DWANTED_VERSION={version}")
+
+    def test_is_a_cmake_package(self) -> None:
+        self.find_package(VERSION.split(".")[0])
+        self.build()
+        self.check_host("build/host")
+
+    def test_is_refused_where_another_version_is_wanted(self) -> None:
+        for version in [next_of(0), next_of(1)]:
+            with self.assertRaises(AssertionError) as refused:
+                self.find_package(version)
+            self.assertIn("version", str(refused.exception))
+
+    def pkg_config(self, *options: str) -> list[str]:
+        folder = next(INSTALLED.rglob("VornLib.pc")).parent
+        return self.run_command(
+            "pkg-config", *options, "VornLib", env={**os.environ, "PKG_CONFIG_PATH": str(folder)}
+        ).split()
+
+    def test_is_a_pkg_config_package(self) -> None:
+        flags = self.pkg_config("--cflags", "--libs")
+        libraries = self.pkg_config("--variable=libdir")[0]
+        own = os.environ.get("CXXFLAGS", "").split()
+        self.run_command(
+            HostTest.compiler, "-std=c++17", *own, "host.cpp", *flags, f"-Wl,-rpath,{libraries}", "-o", "host"
+        )
+        self.check_host("host")
+        self.assertEqual(self.pkg_config("--modversion"), [VERSION])
+
+    def test_has_a_vorn_inspect_that_finds_the_library(self) -> None:
+        if not (BUILD / "vorn-inspect").exists():
+            self.skipTest("This build has no vorn-inspect.")
+        self.assertIn(VERSION, self.run_command(INSTALLED / "bin" / "vorn-inspect", "--version"))
+
+
+if __name__ == "__main__":
+    install_and_move()
+    unittest.main(argv=sys.argv[:1])
