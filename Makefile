@@ -82,6 +82,12 @@ check-docs: ## fail if a diagram is out of date or the header is not fully docum
 	@docs/draw_rules.py --check
 	@tools/render-header.sh
 
+check-recipes: setup ## follow docs/recipes.md in a copy of the sources
+	@tools/install-packages.sh grammar
+	@tools/install-packages.sh docs
+	@tools/fetch-antlr-tool.sh
+	@PYTHONDONTWRITEBYTECODE=1 tests/documents/documents_test.py . $(BUILD) c++ --recipes
+
 lint: setup $(BUILD)/build.ninja ## check the format and run clang-tidy
 	@tools/install-packages.sh lint
 	@test -n '$(OWN_CODE)' || { echo 'lint: git lists no sources.' >&2; exit 1; }

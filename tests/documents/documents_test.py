@@ -1,15 +1,20 @@
+#!/usr/bin/env python3
 """Everything that the documents show works as it stands there.
 
-    documents_test.py SOURCE_FOLDER BUILD_FOLDER COMPILER
+    documents_test.py SOURCE_FOLDER BUILD_FOLDER COMPILER [--recipes]
 
 The blocks of a document are worked off in order, in a copy of the sources of its own:
 
     cpp      a program: written into the file that its first line names, or else compiled and run
-    sh       run; `make` only shows that the target exists, since the targets have their own runs
+    diff     applied to the copy
+    sh       run, in one shell; of `make` and `ctest` only that they know what they are to do
     text     after a block of commands, what they print; elsewhere a picture
     console  commands behind a $, each with what it prints
 
 Tables of examples are checked too; the class Examples knows them by the titles of their columns.
+
+The commands of docs/recipes.md change the sources and build them anew. They are run with --recipes
+only, and then `make` and `ctest` really do it.
 """
 
 import json
@@ -25,11 +30,19 @@ from typing import Any, Callable
 
 from markdown import Block, Document, spans
 
-SOURCE, BUILD = (pathlib.Path(argument) for argument in sys.argv[1:3])
+RECIPES = "--recipes" in sys.argv
+SOURCE, BUILD = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
 COMPILER = sys.argv[3]
+RECIPE_DOCUMENT = SOURCE / "docs" / "recipes.md"
 DOCUMENTS = sorted([*SOURCE.glob("*.md"), *SOURCE.glob("docs/*.md")])
 # Blocks that are tested elsewhere, or are no commands.
 OTHER_LANGUAGES = {"exports", "mermaid"}
+
+# What runs everything is only asked what it would run: this test is a part of it.
+SHOW_ONLY = f"""
+make() {{ command make -C '{SOURCE}' -n "$@" >/dev/null; }}
+ctest() {{ command ctest -N "$@" | grep -q '^  Test *#'; }}
+"""
 
 INSPECT = BUILD / "vorn-inspect"
 
@@ -45,11 +58,15 @@ class Scratch:
     def __init__(self, folder: pathlib.Path) -> None:
         self.folder = folder / "VornLib"
         copy_sources(self.folder)
-        (self.folder / "build" / "release").symlink_to(BUILD)
+        if RECIPES:
+            for downloaded in (SOURCE / "build").glob("antlr*"):
+                (self.folder / "build" / downloaded.name).symlink_to(downloaded)
+        else:
+            (self.folder / "build" / "release").symlink_to(BUILD)
         self.environment = dict(os.environ, LC_ALL="C.UTF-8", CXX=COMPILER)
 
     def run(self, commands: str) -> str:
-        prelude = f"make() {{ command make -C '{SOURCE}' -n \"$@\" >/dev/null; }}\n"
+        prelude = "" if RECIPES else SHOW_ONLY
         result = subprocess.run(
             ["sh", "-e", "-c", prelude + commands],
             cwd=self.folder,
@@ -83,6 +100,10 @@ class Scratch:
             " -Lbuild/release -lVornLib -Wl,-rpath,build/release -o fragment && ./fragment"
         )
 
+    def apply(self, patch: str) -> None:
+        (self.folder / "recipe.diff").write_text(patch, encoding="utf-8")
+        self.run("patch --batch --fuzz=0 -p1 <recipe.diff")
+
 
 def sessions(text: str) -> list[tuple[str, str]]:
     """The commands of a console block, each with its output. A command may go on after a backslash."""
@@ -114,13 +135,32 @@ class Blocks(unittest.TestCase):
                 self.assertEqual(output, block.text)
         elif block.language == "cpp":
             scratch.write_program(block.text)
+        elif block.language == "diff":
+            scratch.apply(block.text)
         else:
             self.assertIn(block.language, OTHER_LANGUAGES)
         return None
 
     def test_work_as_they_stand_there(self) -> None:
         for path in DOCUMENTS:
-            self.work_off(Document(path))
+            if path != RECIPE_DOCUMENT:
+                self.work_off(Document(path))
+
+    def test_the_patches_of_the_recipes_apply(self) -> None:
+        with tempfile.TemporaryDirectory() as folder:
+            scratch = Scratch(pathlib.Path(folder))
+            patches = [block for block in Document(RECIPE_DOCUMENT).blocks() if block.language == "diff"]
+            self.assertTrue(patches)
+            for block in patches:
+                with self.subTest(line=block.line):
+                    scratch.apply(block.text)
+
+
+class Recipes(unittest.TestCase):
+    def test_lead_where_they_say(self) -> None:
+        Blocks.work_off(self, Document(RECIPE_DOCUMENT))
+
+    work_off_block = Blocks.work_off_block
 
 
 class Prose(unittest.TestCase):
@@ -220,4 +260,5 @@ class Examples(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main(argv=sys.argv[:1])
+    tests = "Recipes" if RECIPES else ["Blocks", "Prose", "Examples"]
+    unittest.main(argv=sys.argv[:1], defaultTest=tests)
