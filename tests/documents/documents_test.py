@@ -178,6 +178,12 @@ class Prose(unittest.TestCase):
                     with self.subTest(document=path.name, link=link):
                         self.assertTrue((path.parent / link.split("#")[0]).exists())
 
+    def test_of_the_architecture_has_a_room_for_every_folder(self) -> None:
+        rooms = Document(SOURCE / "docs" / "architecture.md").rows()
+        named = {spans(row.cells["Folder"])[0].split("/")[0] for row in rooms if "Folder" in row.cells}
+        folders = {folder.name for folder in SOURCE.iterdir() if folder.is_dir()}
+        self.assertEqual({name for name in folders if not name.startswith(".")} - {"build"}, named)
+
     def test_has_no_code_that_nobody_runs(self) -> None:
         for path in DOCUMENTS:
             with self.subTest(document=path.name):
