@@ -12,7 +12,7 @@ fail() {
 }
 
 case "${1-}" in
-    build) packages="g++ cmake ninja-build python3 xz-utils libutfcpp-dev
+    build) packages="g++ cmake ninja-build python3 patch xz-utils libutfcpp-dev
                      libcli11-dev nlohmann-json3-dev libutf8proc-dev
                      libgtest-dev librapidcheck-dev locales pkg-config" ;;
     grammar) packages="python3 unicode-data maven default-jre-headless" ;;

@@ -171,12 +171,15 @@ class Prose(unittest.TestCase):
                 with self.subTest(document=path.name, target=target):
                     self.assertRegex(makefile, rf"(?m)^{target}:")
 
-    def test_links_to_files_that_exist(self) -> None:
+    def test_links_to_files_and_headings_that_exist(self) -> None:
         for path in DOCUMENTS:
             for link in Document(path).links():
-                if not re.match(r"https?:|#", link):
+                if not link.startswith("https:"):
                     with self.subTest(document=path.name, link=link):
-                        self.assertTrue((path.parent / link.split("#")[0]).exists())
+                        name, _, anchor = link.partition("#")
+                        target = path.parent / name if name else path
+                        self.assertTrue(target.exists())
+                        self.assertTrue(not anchor or anchor in Document(target).anchors())
 
     def test_of_the_architecture_has_a_room_for_every_folder(self) -> None:
         rooms = Document(SOURCE / "docs" / "architecture.md").rows()

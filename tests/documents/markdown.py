@@ -54,6 +54,11 @@ class Document:
     def links(self) -> list[str]:
         return LINK.findall(self.prose)
 
+    def anchors(self) -> set[str]:
+        """What links to the headings of this document end in."""
+        titles = re.findall(r"(?m)^#+ (.*)$", self.prose)
+        return {re.sub(r"[^\w\- ]", "", title.lower()).replace(" ", "-") for title in titles}
+
 
 def spans(cell: str) -> list[str]:
     return [match[1] or match[2] for match in SPAN.finditer(cell)]
