@@ -36,9 +36,9 @@ inline std::ostream& operator<<(std::ostream& out, const Usage& usage) {
   for (const std::string& form : usage.writtenForms) {
     out << " " << form;
   }
-  for (const auto& [path, labels] : usage.accesses) {
+  for (const auto& [keys, labels] : usage.accesses) {
     out << ", reads";
-    for (const std::string& key : path) {
+    for (const std::string& key : keys) {
       out << " ." << key;
     }
     for (const std::string& label : labels) {
