@@ -15,7 +15,7 @@ class AStringResource : public testing::Test {
   void TearDown() override { FreeLibrary(module); }
 
   // Beside this program.
-  HMODULE module = LoadLibraryW(L"libstring_resources.dll");
+  HMODULE module = LoadLibraryW(L"string_resources.dll");
 };
 
 }  // namespace
@@ -31,14 +31,14 @@ TEST_F(AStringResource, KeepsEveryCharacter) {
 }
 
 TEST_F(AStringResource, IsACopyThatOutlivesItsModule) {
-  HMODULE const again = LoadLibraryW(L"libstring_resources.dll");
+  HMODULE const again = LoadLibraryW(L"string_resources.dll");
   const String text(1, again);
   FreeLibrary(again);
   FreeLibrary(module);
   EXPECT_EQ(utf8Of(text), "one");
   // Behind the text stands a zero, which the resource itself does not have.
   EXPECT_EQ(text.GetAt(3), 0);
-  module = LoadLibraryW(L"libstring_resources.dll");
+  module = LoadLibraryW(L"string_resources.dll");
 }
 
 TEST_F(AStringResource, ReplacesTheText) {
