@@ -60,6 +60,9 @@ fuzz: setup ## run each fuzzer for SECONDS=60
 	@cmake --build --preset fuzz --target vorn_fuzzers
 	@tools/fuzz.sh build/fuzz $(SECONDS)
 
+package-windows: windows ## make a zip of library, headers and vorn-inspect for Windows
+	@tools/package-windows.sh
+
 grammar: ## write grammar/generated/ anew from grammar/Cypher.g4
 	@tools/install-packages.sh grammar
 	@tools/fetch-antlr-tool.sh

@@ -1,0 +1,52 @@
+#!/bin/sh
+# Makes of the Windows build a zip that can be unpacked anywhere.
+#
+#   tools/package-windows.sh
+#
+# Prints the path of the zip.
+set -eu
+
+root=$(cd "$(dirname "$0")/.." && pwd)
+build=$root/build/windows
+
+fail() {
+    echo "package-windows: $1" >&2
+    exit 1
+}
+
+[ -f "$build/VornLib.dll" ] || fail "$build/VornLib.dll is missing; make windows builds it."
+version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$build/CMakeCache.txt")
+name=VornLib-$version-windows-x86_64
+
+work=$(mktemp -d "$root/build/package.XXXXXX")
+trap 'rm -rf "$work"' EXIT
+trap 'exit 1' HUP INT TERM
+
+package=$work/$name
+cmake --install "$build" --prefix "$package" >/dev/null
+# The compiler's DLLs come with all their symbols, which make most of their size.
+x86_64-w64-mingw32-strip "$package"/bin/*.dll
+cp "$root/packaging/windows/README.md" "$package"
+
+licenses=$package/licenses
+mkdir "$licenses"
+cp "$root/packaging/windows/ANTLR.txt" "$licenses"
+cp "$root/build/utf8proc-2.8.0/LICENSE.md" "$licenses/utf8proc.md"
+# GPL-3 is what the licence of the compiler's DLLs makes its exception from.
+cp /usr/share/common-licenses/GPL-3 "$licenses/GPL-3.txt"
+while read -r part debian_package; do
+    copyright=/usr/share/doc/$debian_package/copyright
+    [ -f "$copyright" ] || fail "$copyright is missing; install $debian_package with its documents."
+    cp -L "$copyright" "$licenses/$part.txt"
+done <<'PARTS'
+CLI11 libcli11-dev
+gcc-runtime gcc-mingw-w64-x86-64-posix-runtime
+mingw-w64-runtime mingw-w64-x86-64-dev
+nlohmann-json nlohmann-json3-dev
+utf8cpp libutfcpp-dev
+PARTS
+
+zip=$root/build/$name.zip
+rm -f "$zip"
+(cd "$work" && cmake -E tar cf "$zip" --format=zip "$name")
+echo "$zip"
