@@ -17,6 +17,7 @@ case "${1-}" in
                      libgtest-dev librapidcheck-dev locales pkg-config" ;;
     grammar) packages="python3 unicode-data maven default-jre-headless" ;;
     docs) packages="python3 python3-railroad-diagrams doxygen" ;;
+    bench) packages="libbenchmark-dev valgrind python3" ;;
     lint) packages="clang-format clang-tidy" ;;
     windows) packages="g++-mingw-w64-x86-64-posix wine64 cmake ninja-build python3 xz-utils
                        googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev" ;;

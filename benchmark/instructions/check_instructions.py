@@ -1,0 +1,96 @@
+#!/usr/bin/env python3
+"""Compares the instructions of each function with those of the bare pipeline, text by text.
+
+    check_instructions.py BUILD               fails over a limit or over the committed figures
+    check_instructions.py BUILD --commit      writes the committed figures anew
+    check_instructions.py BUILD --json FILE   writes the ratio of every text too
+
+The figures are ratios, which the compiler and the machine's libraries change less than counts.
+"""
+
+import argparse
+import json
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+from collections import defaultdict
+
+HERE = pathlib.Path(__file__).parent
+FIGURES = HERE / 'figures.json'
+LIMIT = 1.05
+GROWTH = 1.02
+
+
+def counts(build, texts):
+    """Instructions by subject, function and place of the text."""
+    found = {}
+    with tempfile.TemporaryDirectory() as folder:
+        command = ['valgrind', '--tool=callgrind', '--instr-atstart=no', '--dump-line=no',
+                   f'--callgrind-out-file={folder}/dump',
+                   build / 'benchmark/instructions/vorn-count-instructions', texts, 'bare', build / 'libVornLib.so']
+        run = subprocess.run(command, capture_output=True, text=True)
+        if run.returncode != 0:
+            sys.exit(f'check-instructions: {run.stderr.strip().splitlines()[-1]}')
+        for dump in pathlib.Path(folder).iterdir():
+            with dump.open(encoding='utf-8', errors='replace') as lines:
+                head = ''.join(line for _, line in zip(range(20), lines))
+            if name := re.search(r'Client Request: (\w+)\t(\w+)\t(\d+)', head):
+                total = re.search(r'^summary: (\d+)', head, re.MULTILINE)
+                found[name[1], name[2], int(name[3])] = int(total[1])
+    return found
+
+
+def ratios_by_group(found, records, library):
+    groups = defaultdict(list)
+    for (subject, function, place), count in found.items():
+        if subject == library:
+            bare = found['bare', function, place]
+            groups[f'{records[place]["group"]}: {function}'].append(
+                {'place': place, 'count': count, 'bare': bare, 'ratio': count / bare})
+    return dict(sorted(groups.items()))
+
+
+def figures_of(groups):
+    return {group: {'ratio': round(sum(c['count'] for c in calls) / sum(c['bare'] for c in calls), 4),
+                    'worst': round(max(c['ratio'] for c in calls), 4)} for group, calls in groups.items()}
+
+
+def complaints(figures, committed):
+    for group, figure in figures.items():
+        if figure['worst'] > LIMIT:
+            yield f'{group}: a text takes {figure["worst"]} of the bare pipeline, more than {LIMIT}'
+        if group in committed and figure['ratio'] > committed[group]['ratio'] * GROWTH:
+            yield f'{group}: {figure["ratio"]} of the bare pipeline, committed are {committed[group]["ratio"]}'
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument('build', type=pathlib.Path)
+    parser.add_argument('--commit', action='store_true')
+    parser.add_argument('--json', type=pathlib.Path)
+    arguments = parser.parse_args()
+    build = arguments.build.resolve()
+
+    text = subprocess.run([HERE.parent / 'corpus/corpus.py'], check=True, capture_output=True).stdout
+    texts = build / 'corpus.jsonl'
+    texts.write_bytes(text)
+    records = [json.loads(line) for line in text.decode().splitlines()]
+    groups = ratios_by_group(counts(build, texts), records, build.name)
+    figures = figures_of(groups)
+    for group, figure in figures.items():
+        print(f'{group:40} {figure["ratio"]:7.4f}   worst {figure["worst"]:7.4f}')
+    if arguments.json:
+        arguments.json.write_text(json.dumps(groups))
+    if arguments.commit:
+        FIGURES.write_text(json.dumps(figures, indent=2) + '\n')
+        return
+    found = list(complaints(figures, json.loads(FIGURES.read_text())))
+    for complaint in found:
+        print(f'check-instructions: {complaint}', file=sys.stderr)
+    sys.exit(1 if found else 0)
+
+
+if __name__ == '__main__':
+    main()
