@@ -3,6 +3,7 @@
 
     corpus.py               the texts that are measured, the samples under examples/ included
     corpus.py --training    other texts of the same kinds, for profile-guided optimisation
+    corpus.py --many N      N queries and filters, to see what fills the parser's tables
 
 Each object has `group`, `entry` ("query" or "filter"), `text` and, for a filter, `renames`.
 """
@@ -79,12 +80,25 @@ def training():
     return [record for record in generated(writer, rounds=4) if record['text'] not in shared]
 
 
+def many(count):
+    writer = Writer(random.Random(1), MEASURED)
+    for i, size in enumerate(sizes(writer.random, count, 20, 400)):
+        yield query('many', writer.query_of(size)) if i % 2 == 0 else filter_('many', writer.filter_of(size), writer)
+
+
+def records(arguments):
+    if arguments.many:
+        return many(arguments.many)
+    return training() if arguments.training else measured()
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument('--training', action='store_true', help='texts that are not measured')
+    parser.add_argument('--many', type=int, metavar='N', help='this many queries and filters')
     arguments = parser.parse_args()
     sys.stdout.reconfigure(encoding='utf-8', newline='\n')
-    for record in training() if arguments.training else measured():
+    for record in records(arguments):
         print(json.dumps(record, ensure_ascii=False))
 
 
