@@ -8,6 +8,11 @@ OWN_CODE = $(shell git ls-files --cached --others --exclude-standard '*.h' '*.cp
 
 SECONDS := 60
 MILLIONS := 2
+BENCH := build/bench
+OWN_CODE = $(shell git ls-files --cached --others --exclude-standard \
+             'include/*.h' 'src/*.h' 'src/*.cpp' 'platform/*.h' 'platform/*.cpp' \
+             'strings/*.h' 'strings/*.cpp' 'examples/*.h' 'examples/*.cpp' \
+             'tests/*.h' 'tests/*.cpp' 'benchmark/*.h' 'benchmark/*.cpp')
 
 help: ## list these targets
 	@sed -n 's/^\([a-z-]*\):.*## /\1\t/p' $(MAKEFILE_LIST) | expand -t 16
@@ -63,6 +68,24 @@ fuzz: setup ## run each fuzzer for SECONDS=60
 package-windows: windows ## make a zip of library, headers and vorn-inspect for Windows
 	@tools/package-windows.sh
 
+$(BENCH)/build.ninja: | setup
+	@tools/install-packages.sh bench
+	@cmake --preset bench >/dev/null
+
+bench-build: setup $(BENCH)/build.ninja ## build the programs that measure, and a plain library
+	@cmake --build --preset bench
+
+bench: bench-build ## print the times of all functions beside the bare pipeline
+	@benchmark/report/measure.py $(BENCH)
+	@benchmark/report/times.py $(BENCH)
+
+bench-report: bench-build ## measure everything and write docs/performance.md
+	@benchmark/report/measure.py --all $(BENCH)
+	@benchmark/report/report.py $(BENCH)
+
+check-instructions: bench-build ## fail if a function executes more than it should
+	@benchmark/instructions/check_instructions.py $(BENCH)
+
 grammar: ## write grammar/generated/ anew from grammar/Cypher.g4
 	@tools/install-packages.sh grammar
 	@tools/fetch-antlr-tool.sh
@@ -104,3 +127,4 @@ format: ## bring the sources into format
 clean: ## remove everything that was built, but not what was downloaded
 	@rm -rf build/release build/debug build/windows build/wine
 	@rm -rf build/release build/debug build/fuzz
+	@rm -rf build/release build/debug build/bench build/windows build/wine
