@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <iomanip>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -39,9 +40,9 @@ void measure(const Subjects& subjects, Subject::Function function, const Text& t
   std::vector<std::vector<double>> times = timesOf(subjects, function, text);
   for (std::size_t i = 0; i < subjects.size(); ++i) {
     std::sort(times[i].begin(), times[i].end());
-    std::cout << text.group << ',' << nameOf(function) << ',' << subjects[i]->name << ','
-              << text.utf8.size() << ',' << times[i][times[i].size() / 2] << ',' << times[i].front()
-              << '\n';
+    std::cout << std::quoted(text.group) << ',' << nameOf(function) << ',' << subjects[i]->name
+              << ',' << text.utf8.size() << ',' << times[i][times[i].size() / 2] << ','
+              << times[i].front() << '\n';
   }
 }
 

@@ -4,6 +4,7 @@
 //   vorn-memory caches SUBJECT < TEXTS   what is left behind after 1, 2, 4 ... different texts
 
 #include <exception>
+#include <iomanip>
 #include <iostream>
 #include <sstream>
 #include <stdexcept>
@@ -22,7 +23,7 @@ void measureCall(const Subject& subject, Subject::Function function, const Text&
   const Heap before = heap();
   subject.call(function, text);
   const Heap after = heap();
-  std::cout << text.group << ',' << nameOf(function) << ',' << subject.name << ','
+  std::cout << std::quoted(text.group) << ',' << nameOf(function) << ',' << subject.name << ','
             << text.utf8.size() << ',' << after.allocations - before.allocations << ','
             << after.bytes - before.bytes << ',' << after.peak - before.live << '\n';
 }
