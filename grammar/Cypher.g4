@@ -20,6 +20,26 @@ grammar Cypher;
 #include <memory_resource>
 }
 
+// The generated code never frees these tables. At the end of the process that is right, since other
+// threads may still use them; a host that unloads the library gets its memory back.
+@lexer::definitions {
+namespace vorn {
+void releaseLexerTables() {
+  delete cypherlexerLexerStaticData;
+  cypherlexerLexerStaticData = nullptr;
+}
+}
+}
+
+@parser::definitions {
+namespace vorn {
+void releaseParserTables() {
+  delete cypherParserStaticData;
+  cypherParserStaticData = nullptr;
+}
+}
+}
+
 // Hides the runtime's tracker of the same name from the generated rules, so that the nodes of a tree
 // can come from memory that is released as a whole. Without such memory they come from the heap.
 @parser::members {

@@ -9,6 +9,7 @@
 #include "FailSafeSimulators.h"
 #include "GuardedRecognisers.h"
 #include "PredictionTables.h"
+#include "RecogniserTables.h"
 #include "ThrowingErrorListener.h"
 #include "platform/StringUtf8ImplDetail.h"
 
@@ -28,6 +29,7 @@ InterrogatorBase::InterrogatorBase(const WideString& text)
     : utf8Text(StringUtf8ImplDetail::StringWideCharToUtf8Impl(text)),
       inputStream(std::make_unique<antlr4::ANTLRInputStream>(std::string_view(utf8Text))),
       lexer(std::make_unique<GuardedLexer>(inputStream.get(), guard)) {
+  releaseRecogniserTablesWithLibrary();
   makeErrorsFatal(*lexer);
   lexer->setInterpreter(
       new FailSafeLexerSimulator(*lexer, *lexer->getInterpreter<antlr4::atn::LexerATNSimulator>()));

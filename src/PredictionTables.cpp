@@ -1,11 +1,16 @@
 #include "PredictionTables.h"
 
 #include <atn/ATN.h>
+#include <atn/ATNConfig.h>
+#include <atn/ATNConfigSet.h>
+#include <dfa/DFAState.h>
 
 #include <array>
 #include <mutex>
 #include <new>
+#include <unordered_set>
 #include <utility>
+#include <vector>
 
 namespace vorn {
 
@@ -34,6 +39,47 @@ struct Shared {
   std::shared_ptr<PredictionTables> tables;
 };
 
+using Context = std::shared_ptr<const antlr4::atn::PredictionContext>;
+
+// Appends a context and all that it refers to, these first, unless they were seen before.
+void append(const Context& context, std::unordered_set<const void*>& seen,
+            std::vector<Context>& contexts) {
+  struct Visit {
+    const Context* context;
+    std::size_t next = 0;  // of those it refers to
+  };
+  std::vector<Visit> open;
+  const auto enter = [&](const Context& entered) {
+    if (entered != nullptr && seen.insert(entered.get()).second) {
+      open.push_back({&entered});
+    }
+  };
+  enter(context);
+  while (!open.empty()) {
+    Visit& visit = open.back();
+    const Context& current = *visit.context;
+    if (visit.next < current->size()) {
+      enter(current->getParent(visit.next++));
+    } else {
+      contexts.push_back(current);
+      open.pop_back();
+    }
+  }
+}
+
+std::vector<Context> contextsOf(const std::vector<antlr4::dfa::DFA>& decisions) {
+  std::unordered_set<const void*> seen;
+  std::vector<Context> contexts;
+  for (const antlr4::dfa::DFA& decision : decisions) {
+    for (const antlr4::dfa::DFAState* state : decision.states) {
+      for (const auto& configuration : state->configs->configs) {
+        append(configuration->context, seen, contexts);
+      }
+    }
+  }
+  return contexts;
+}
+
 }  // namespace
 
 PredictionTables::PredictionTables(const antlr4::atn::ATN& atn) {
@@ -41,6 +87,22 @@ PredictionTables::PredictionTables(const antlr4::atn::ATN& atn) {
   decisions.reserve(count);
   for (std::size_t i = 0; i < count; ++i) {
     decisions.emplace_back(atn.getDecisionState(i), i);
+  }
+}
+
+// A context keeps the one that it refers to alive. Such a chain is as long as a text was deep, and
+// would be released by recursion on a stack that may be smaller than the one of that text.
+PredictionTables::~PredictionTables() {
+  try {
+    held.contexts = contextsOf(decisions);
+  } catch (const std::bad_alloc&) {
+    held.contexts.clear();
+  }
+}
+
+PredictionTables::HeldContexts::~HeldContexts() {
+  while (!contexts.empty()) {
+    contexts.pop_back();
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atn/PredictionContext.h>
 #include <atn/PredictionContextCache.h>
 #include <dfa/DFA.h>
 
@@ -24,6 +25,28 @@ class PredictionTables {
   /// The tables for a call that begins.
   static std::shared_ptr<PredictionTables> current(const antlr4::atn::ATN& atn);
 
+  PredictionTables(const PredictionTables&) = delete;
+  PredictionTables& operator=(const PredictionTables&) = delete;
+  PredictionTables(PredictionTables&&) = delete;
+  PredictionTables& operator=(PredictionTables&&) = delete;
+  ~PredictionTables();
+
+ private:
+  // Every context stands behind those that it refers to and goes before them.
+  struct HeldContexts {
+    std::vector<std::shared_ptr<const antlr4::atn::PredictionContext>> contexts;
+
+    HeldContexts() = default;
+    HeldContexts(const HeldContexts&) = delete;
+    HeldContexts& operator=(const HeldContexts&) = delete;
+    HeldContexts(HeldContexts&&) = delete;
+    HeldContexts& operator=(HeldContexts&&) = delete;
+    ~HeldContexts();
+  };
+
+  HeldContexts held;  // outlives what refers to the contexts
+
+ public:
   std::vector<antlr4::dfa::DFA> decisions;
   antlr4::atn::PredictionContextCache contexts;
   std::atomic<std::size_t> configurations{0};

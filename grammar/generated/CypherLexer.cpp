@@ -754,6 +754,14 @@ const atn::ATN& CypherLexer::getATN() const {
 }
 
 
+namespace vorn {
+void releaseLexerTables() {
+  delete cypherlexerLexerStaticData;
+  cypherlexerLexerStaticData = nullptr;
+}
+}
+
+
 
 
 void CypherLexer::initialize() {

@@ -777,6 +777,14 @@ antlr4::atn::SerializedATNView CypherParser::getSerializedATN() const {
 }
 
 
+namespace vorn {
+void releaseParserTables() {
+  delete cypherParserStaticData;
+  cypherParserStaticData = nullptr;
+}
+}
+
+
 //----------------- OC_CypherContext ------------------------------------------------------------------
 
 CypherParser::OC_CypherContext::OC_CypherContext(ParserRuleContext *parent, size_t invokingState)

@@ -6,6 +6,7 @@
 
 #include <cstring>
 #include <functional>
+#include <memory_resource>
 #include <stdexcept>
 
 #include "GuardedRecognisers.h"
@@ -65,7 +66,7 @@ TEST(GuardedParser, AsksTheGuardAtEachRule) {
     antlr4::ANTLRInputStream input("a");
     vorn::GuardedLexer lexer(&input, guard);
     antlr4::CommonTokenStream tokens(&lexer);
-    vorn::GuardedParser parser(&tokens, guard);
+    vorn::GuardedParser parser(&tokens, guard, *std::pmr::get_default_resource());
     below(440 * kibibyte, [&] { EXPECT_THROW(parser.oC_Expression(), std::length_error); });
   });
 }
