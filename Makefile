@@ -34,8 +34,6 @@ test: setup $(BUILD)/build.ninja ## build everything and run all tests
 	@cmake --build --preset release
 	@ctest --preset release
 
-MILLIONS := 2
-
 soak: setup $(BUILD)/build.ninja ## make MILLIONS of random calls, print the memory at intervals
 	@cmake --build --preset release --target soak
 	@$(BUILD)/tests/robustness/soak $(MILLIONS)
@@ -125,6 +123,4 @@ format: ## bring the sources into format
 	@clang-format -i $(OWN_CODE)
 
 clean: ## remove everything that was built, but not what was downloaded
-	@rm -rf build/release build/debug build/windows build/wine
-	@rm -rf build/release build/debug build/fuzz
-	@rm -rf build/release build/debug build/bench build/windows build/wine
+	@find build -mindepth 1 -maxdepth 1 ! -name 'antlr*' ! -name 'sources' -exec rm -rf {} +
