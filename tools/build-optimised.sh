@@ -1,0 +1,19 @@
+#!/bin/sh
+# Builds the library with link-time and profile-guided optimisation, as build/optimized/libVornLib.so.
+#
+#   tools/build-optimised.sh
+#
+# The texts it is trained with are none of those that the benchmarks measure.
+set -eu
+
+cd "$(dirname "$0")/.."
+build=build/optimized
+
+cmake --preset optimized -DVORN_PROFILE=generate >/dev/null
+find $build -name '*.gcda' -delete
+cmake --build $build --target vorn-train
+# Without address randomisation the counts, and so the library, are the same every time.
+benchmark/corpus/corpus.py --training | setarch -R $build/benchmark/training/vorn-train
+
+cmake --preset optimized -DVORN_PROFILE=use >/dev/null
+cmake --build $build --target VornLib
