@@ -10,9 +10,9 @@
 
 #include "Input.h"
 #include "Properties.h"
-#include "strings/BString.h"
-#include "strings/String.h"
-#include "strings/StringArray.h"
+#include "vorn/strings/BString.h"
+#include "vorn/strings/String.h"
+#include "vorn/strings/StringArray.h"
 
 namespace {
 

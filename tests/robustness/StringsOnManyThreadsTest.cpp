@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "strings/BString.h"
-#include "strings/String.h"
-#include "strings/StringArray.h"
+#include "vorn/strings/BString.h"
+#include "vorn/strings/String.h"
+#include "vorn/strings/StringArray.h"
 
 namespace {
 
