@@ -113,6 +113,16 @@ check-recipes: setup ## follow docs/recipes.md in a copy of the sources
 	@tools/fetch-antlr-tool.sh
 	@PYTHONDONTWRITEBYTECODE=1 tests/documents/documents_test.py . $(BUILD) c++ --recipes
 
+check-abi: setup $(BUILD)/build.ninja ## fail if hosts built with this version would meet another ABI
+	@tools/install-packages.sh abi
+	@cmake --build --preset release --target vorn_abi
+	@tools/check-abi.sh $(BUILD)
+
+announce-abi: setup $(BUILD)/build.ninja ## take the ABI of now for the announced one
+	@tools/install-packages.sh abi
+	@cmake --build --preset release --target vorn_abi
+	@tools/check-abi.sh $(BUILD) --write
+
 lint: setup $(BUILD)/build.ninja ## check the format and run clang-tidy
 	@tools/install-packages.sh lint
 	@test -n '$(OWN_CODE)' || { echo 'lint: git lists no sources.' >&2; exit 1; }

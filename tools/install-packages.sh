@@ -18,6 +18,11 @@ case "${1-}" in
     grammar) packages="python3 unicode-data maven default-jre-headless" ;;
     docs) packages="python3 python3-railroad-diagrams doxygen" ;;
     bench) packages="libbenchmark-dev valgrind python3" ;;
+    abi) packages="abigail-tools" ;;
+    debian) packages="debhelper dpkg-dev fakeroot lintian devscripts bash-completion" ;;
+    arm64) packages="g++-aarch64-linux-gnu qemu-user cmake ninja-build python3 xz-utils
+                     googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev" ;;
+    coverage) packages="gcovr" ;;
     lint) packages="clang-format clang-tidy" ;;
     windows) packages="g++-mingw-w64-x86-64-posix wine64 cmake ninja-build python3 xz-utils
                        googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev" ;;

@@ -36,6 +36,14 @@
 ///   shape of text, and stay. A text that nests deeply can also take time that grows faster than
 ///   its length. So bound the length of what a stranger may send.
 
+/// The version of this header: semantic, so a host that was built with one works with every later
+/// library of the same major number. The build reads it here.
+#define VORN_VERSION_MAJOR 1
+/// Grows when something is added.
+#define VORN_VERSION_MINOR 0
+/// Grows when something is repaired.
+#define VORN_VERSION_PATCH 0
+
 /// @cond
 #if defined(VORN_STATIC)
 #define VORN_API

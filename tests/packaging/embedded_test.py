@@ -12,7 +12,8 @@ import unittest
 from minimal_host import TESTS, HostTest
 
 SOURCE = TESTS.parent.parent
-(VERSION,) = re.findall(r"VornLib VERSION (\S+)", (SOURCE / "CMakeLists.txt").read_text(encoding="utf-8"))
+HEADER = (SOURCE / "include" / "vorn" / "vorn.h").read_text(encoding="utf-8")
+VERSION = ".".join(re.findall(r"(?m)^#define VORN_VERSION_\w+ (\d+)$", HEADER))
 STRICT = "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror"
 
 

@@ -5,6 +5,7 @@
 
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -60,6 +61,16 @@ class Installed(HostTest):
         )
         self.check_host("host")
         self.assertEqual(self.pkg_config("--modversion"), [VERSION])
+
+    def test_has_one_version(self) -> None:
+        macros = self.run_command(
+            HostTest.compiler, "-std=c++17", "-E", "-dM", "-include", "vorn/vorn.h", "-xc++", "/dev/null",
+            *self.pkg_config("--cflags"),
+        )  # fmt: skip
+        numbers = [re.search(rf"(?m)^#define VORN_VERSION_{part} (\d+)$", macros)[1] for part in ["MAJOR", "MINOR", "PATCH"]]
+        self.assertEqual(".".join(numbers), VERSION)
+        for library in INSTALLED.rglob("libVornLib.so"):
+            self.assertIn(f"[libVornLib.so.{numbers[0]}]", self.run_command("readelf", "-d", library))
 
     def test_has_a_vorn_inspect_that_finds_the_library(self) -> None:
         if not (BUILD / "vorn-inspect").exists():
