@@ -33,8 +33,8 @@
 ///   stack is (a coroutine's on Linux), 64 KiB are assumed, enough for a few levels. Less than
 ///   32 KiB is refused whatever the text.
 /// - The tables by which the parser predicts are shared by the process. They grow with every new
-///   shape of text, and stay. A text that nests deeply can also take time that grows faster than
-///   its length. So bound the length of what a stranger may send.
+///   shape of text up to a bound, and are then begun anew. A text that nests deeply can also take
+///   time that grows faster than its length. So bound the length of what a stranger may send.
 
 /// The version of this header: semantic, so a host that was built with one works with every later
 /// library of the same major number. The build reads it here.
