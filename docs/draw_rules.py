@@ -23,9 +23,9 @@ DOCUMENT = ROOT / "docs" / "language.md"
 DIAGRAMS = ROOT / "docs" / "language"
 
 LEXEME = re.compile(
-    r"""//[^\n]* | @[\w:]+\s*\{[^}]*\}                          # nothing that is drawn
+    r"""//[^\n]* | ^@[\w:]+\s*\{.*?^\}                         # nothing that is drawn
         | (?P<lexeme>'(?:\\.|[^'\\])*'|\[(?:\\.|[^\]\\])*\]|\w+|\.\.|[:;|()?*+~])""",
-    re.VERBOSE,
+    re.VERBOSE | re.MULTILINE | re.DOTALL,
 )
 
 # Sets of Unicode: their many ranges would tell a reader less than their names do.
