@@ -20,7 +20,7 @@ SURROGATES = (0xD800, 0xDFFF)
 TOKEN = re.compile(
     r"""
     (?P<space>\s+|//[^\n]*)
-  | (?P<action>@[\w:]+\s*\{[^}]*\})
+  | (?P<action>@[\w:]+\s*\{)
   | (?P<literal>'(?:\\u\{[0-9A-Fa-f]+\}|\\u[0-9A-Fa-f]{4}|\\.|[^'\\])+')
   | (?P<set>\[(?:\\.|[^\]\\])+\])
   | (?P<name>\w+)
@@ -38,6 +38,15 @@ def unescaped(text: str) -> str:
         return chr(int(code, 16)) if code else NAMED_ESCAPES.get(match[3], match[3])
 
     return ESCAPE.sub(character, text)
+
+
+def end_of_action(text: str, at: int) -> int:
+    """The place behind the C++ of an action, from the place behind its opening brace."""
+    depth = 1
+    while depth > 0:
+        depth += {"{": 1, "}": -1}.get(text[at], 0)
+        at += 1
+    return at
 
 
 def merged(ranges: list) -> list:
@@ -117,7 +126,9 @@ class CypherGrammar:
             if match is None:
                 raise ValueError(f"cannot read the grammar at {text[at:at + 20]!r}")
             at = match.end()
-            if match.lastgroup not in ("space", "action"):
+            if match.lastgroup == "action":
+                at = end_of_action(text, at)
+            elif match.lastgroup != "space":
                 tokens.append((match.lastgroup, match.group()))
         return tokens
 
