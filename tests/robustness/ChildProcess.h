@@ -3,8 +3,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
-#include <cstdio>
 #include <exception>
 #include <string>
 
@@ -13,8 +13,8 @@
 /// itself. Nothing is done of what programs do at their end.
 template <typename Function>
 std::string inChildProcess(const Function& function) {
-  int ends[2];  // NOLINT(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays): pipe's
-  if (::pipe(ends) != 0) {
+  std::array<int, 2> ends{};
+  if (::pipe(ends.data()) != 0) {
     return "no pipe";
   }
   const pid_t child = ::fork();
