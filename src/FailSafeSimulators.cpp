@@ -108,12 +108,11 @@ size_t FailSafeParserSimulator::execATN(DFA& dfa, DFAState* start, antlr4::Token
 size_t FailSafeParserSimulator::finishedAlternative(ATNConfigSet* configs,
                                                     antlr4::TokenStream* input, size_t startIndex,
                                                     antlr4::ParserRuleContext* outerContext) {
-  // Nobody looks at the configurations of the error.
-  antlr4::NoViableAltException error = noViableAlt(input, outerContext, nullptr, startIndex, false);
-  input->seek(startIndex);
   const size_t alternative = getAltThatFinishedDecisionEntryRule(configs);
   if (alternative == ATN::INVALID_ALT_NUMBER) {
-    throw error;
+    // Nobody looks at the configurations of the error.
+    // NOLINTNEXTLINE(cert-err60-cpp): the type is the runtime's
+    throw noViableAlt(input, outerContext, nullptr, startIndex, false);
   }
   return alternative;
 }

@@ -6,6 +6,8 @@
 #include <dfa/DFAState.h>
 
 #include <array>
+#include <cstddef>
+#include <memory>
 #include <mutex>
 #include <new>
 #include <unordered_set>
@@ -24,15 +26,15 @@ constexpr std::size_t maxConfigurations = 400'000;
 struct Shared {
   static Shared& instance() {
     alignas(Shared) static std::array<std::byte, sizeof(Shared)> storage;
-    static Shared* const shared = ::new (storage.data()) Shared;
-    struct Release {
-      ~Release() {
-        const std::lock_guard<std::mutex> lock(shared->mutex);
-        shared->tables.reset();
-      }
-    };
-    static const Release release;
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): guarded by its mutex
+    static auto* const shared = ::new (storage.data()) Shared;
+    static const std::unique_ptr<Shared, void (*)(Shared*)> atUnloading(shared, letTablesGo);
     return *shared;
+  }
+
+  static void letTablesGo(Shared* shared) {
+    const std::lock_guard<std::mutex> lock(shared->mutex);
+    shared->tables.reset();
   }
 
   std::mutex mutex;

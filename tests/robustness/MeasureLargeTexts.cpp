@@ -21,6 +21,7 @@ constexpr std::size_t mebibyte = 1 << 20;
 std::size_t peakMebibytes() {
   rusage usage{};
   ::getrusage(RUSAGE_SELF, &usage);
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-union-access): the C library declares it so
   return static_cast<std::size_t>(usage.ru_maxrss) / 1024;
 }
 

@@ -63,7 +63,7 @@ const std::vector<Question>& questions() {
        u"MATCH p = (n:Person)-[r:KNOWS*1..2]->(m) WHERE n.age > 3 AND (n)-->(m) "
        u"WITH *, n AS x ORDER BY x UNWIND [1] AS u RETURN n, r, p, m.name AS friend, u "
        u"UNION MATCH ()-[n]-(x) RETURN n, x, n AS p, {a: [y IN x.l WHERE y = 'ü' | y.b]} AS z, 1"},
-      {Kind::columns, u"RETURN 0x1F + 017 AS `größe`, count(*)"},
+      {Kind::columns, u"RETURN 0x1F + 0o17 AS `größe`, count(*)"},
       {Kind::columns, u"CREATE (n) SET n.a = CASE WHEN n IS NULL THEN 1 ELSE -2.5e3 END"},
       {Kind::columns, u"MATCH (n RETURN n"},
       {Kind::columns, u"RETURN 'not closed"},

@@ -32,8 +32,8 @@ std::string RandomTexts::query() {
 std::string RandomTexts::filter() { return expression(filterDepth); }
 
 std::string RandomTexts::damaged(std::string text) {
-  constexpr std::array strange = {"\0"sv, "'"sv,    "`"sv, "\\"sv, "/*"sv,         "#"sv,
-                                  "("sv,  "]"sv,    "}"sv, "é"sv,  "\U0001F600"sv, "//"sv,
+  constexpr std::array strange = {"\0"sv, "'"sv,    "`"sv, R"(\)"sv, "/*"sv,         "#"sv,
+                                  "("sv,  "]"sv,    "}"sv, "é"sv,    "\U0001F600"sv, "//"sv,
                                   "-"sv,  " AND"sv, "$"sv, ";"sv};
   const std::size_t place = below(text.size() + 1);
   const std::size_t length = below(8);
@@ -139,7 +139,7 @@ std::string RandomTexts::operation(int depth) {
 }
 
 std::string RandomTexts::atom(int depth) {
-  constexpr std::array literals = {"1"sv,    "0x1F"sv, "1.5e3"sv,    "'text'"sv, "\"a\\n\""sv,
+  constexpr std::array literals = {"1"sv,    "0x1F"sv, "1.5e3"sv,    "'text'"sv, R"("a\n")"sv,
                                    "TRUE"sv, "NULL"sv, "count(*)"sv, "$p"sv,     "[]"sv};
   if (depth > 0 && oneIn(3)) {
     return nested(depth - 1);

@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <string>
 
 #include "robustness/RandomTexts.h"
@@ -50,7 +51,7 @@ void soak(std::size_t calls) {
 
 int main(int argumentCount, char** arguments) {
   try {
-    const double millions = argumentCount == 2 ? std::stod(arguments[1]) : 0;
+    const double millions = argumentCount == 2 ? std::stod(*std::next(arguments)) : 0;
     const auto calls = static_cast<std::size_t>(millions * million);
     if (calls < intervals) {
       std::cerr << "soak: say how many millions of calls.\n";
