@@ -30,21 +30,14 @@ cp "$root/packaging/windows/README.md" "$package"
 
 licenses=$package/licenses
 mkdir "$licenses"
-cp "$root/packaging/windows/ANTLR.txt" "$licenses"
-cp "$root/build/utf8proc-2.8.0/LICENSE.md" "$licenses/utf8proc.md"
-# GPL-3 is what the licence of the compiler's DLLs makes its exception from.
+cp "$root/THIRD-PARTY.md" "$licenses"
+# The compiler's DLLs, and the licence that theirs makes an exception from.
 cp /usr/share/common-licenses/GPL-3 "$licenses/GPL-3.txt"
-while read -r part debian_package; do
+for debian_package in gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev; do
     copyright=/usr/share/doc/$debian_package/copyright
     [ -f "$copyright" ] || fail "$copyright is missing; install $debian_package with its documents."
-    cp -L "$copyright" "$licenses/$part.txt"
-done <<'PARTS'
-CLI11 libcli11-dev
-gcc-runtime gcc-mingw-w64-x86-64-posix-runtime
-mingw-w64-runtime mingw-w64-x86-64-dev
-nlohmann-json nlohmann-json3-dev
-utf8cpp libutfcpp-dev
-PARTS
+    cp -L "$copyright" "$licenses/$debian_package.txt"
+done
 
 zip=$root/build/$name.zip
 rm -f "$zip"

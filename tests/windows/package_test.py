@@ -65,8 +65,8 @@ class Package(unittest.TestCase):
             "include/vorn/strings/String.h",
             "lib/libVornLib.dll.a",
             "lib/cmake/VornLib/VornLibConfig.cmake",
-            "licenses/ANTLR.txt",
-            "licenses/gcc-runtime.txt",
+            "licenses/THIRD-PARTY.md",
+            "licenses/gcc-mingw-w64-x86-64-posix-runtime.txt",
             "README.md",
         }
         self.assertEqual(expected - files, set())
