@@ -1,5 +1,5 @@
 # The DLLs of mingw-w64 that everything built with it needs. They are put beside VornLib.dll, where
-# Windows looks for them, and installed with it.
+# Windows looks for them.
 if(NOT MINGW)
   return()
 endif()
@@ -15,4 +15,3 @@ foreach(name IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
   list(APPEND VORN_COMPILER_RUNTIME "${file}")
 endforeach()
 file(COPY ${VORN_COMPILER_RUNTIME} DESTINATION "${PROJECT_BINARY_DIR}")
-install(FILES ${VORN_COMPILER_RUNTIME} TYPE BIN)
