@@ -135,3 +135,4 @@ format: ## bring the sources into format
 
 clean: ## remove everything that was built, but not what was downloaded
 	@find build -mindepth 1 -maxdepth 1 ! -name 'antlr*' ! -name 'sources' -exec rm -rf {} +
+	@rm -rf build/release build/debug build/bench build/fuzz build/windows build/wine
