@@ -37,8 +37,7 @@ Function find(void* library, const char* symbol) {
   if (address == nullptr) {
     throw std::runtime_error(dlerror());
   }
-  return reinterpret_cast<Function>(
-      address);  // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
+  return reinterpret_cast<Function>(address);
 }
 
 // build/optimized/libVornLib.so is "optimized".
