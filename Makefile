@@ -7,12 +7,8 @@ WINDOWS_BUILD := build/windows
 OWN_CODE = $(shell git ls-files --cached --others --exclude-standard '*.h' '*.cpp' ':!grammar/generated')
 
 SECONDS := 60
-MILLIONS := 2
 BENCH := build/bench
-OWN_CODE = $(shell git ls-files --cached --others --exclude-standard \
-             'include/*.h' 'src/*.h' 'src/*.cpp' 'platform/*.h' 'platform/*.cpp' \
-             'strings/*.h' 'strings/*.cpp' 'examples/*.h' 'examples/*.cpp' \
-             'tests/*.h' 'tests/*.cpp' 'benchmark/*.h' 'benchmark/*.cpp')
+MILLIONS := 2
 
 help: ## list these targets
 	@sed -n 's/^\([a-z-]*\):.*## /\1\t/p' $(MAKEFILE_LIST) | expand -t 16
@@ -58,6 +54,7 @@ windows: ## cross-build library, programs and tests for 64-bit Windows
 
 windows-test: build windows ## run all tests for 64-bit Windows under Wine
 	@tools/test-under-wine.sh
+
 fuzz: setup ## run each fuzzer for SECONDS=60
 	@tools/install-packages.sh fuzz
 	@cmake --preset fuzz >/dev/null
@@ -135,4 +132,3 @@ format: ## bring the sources into format
 
 clean: ## remove everything that was built, but not what was downloaded
 	@find build -mindepth 1 -maxdepth 1 ! -name 'antlr*' ! -name 'sources' -exec rm -rf {} +
-	@rm -rf build/release build/debug build/bench build/fuzz build/windows build/wine

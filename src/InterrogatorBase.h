@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <memory>
 #include <memory_resource>
 #include <string>
@@ -31,8 +33,10 @@ class InterrogatorBase {
   explicit InterrogatorBase(const WideString& text);
 
   NestingGuard guard;  // the first, so that nothing is done on a stack that has no room left
-  // Holds the nodes of the parse tree, which are released together.
-  std::pmr::monotonic_buffer_resource nodeMemory;
+  // Hold the nodes of the parse tree, which are released together. Those of a short text need no
+  // block from the heap.
+  std::array<std::byte, 8 * std::size_t{1024}> firstNodes;
+  std::pmr::monotonic_buffer_resource nodeMemory{firstNodes.data(), firstNodes.size()};
 
   // Each refers to the one before it, so the order of construction and destruction matters.
   std::string utf8Text;

@@ -85,7 +85,17 @@ std::string failureInFirstCall(const Question& question, std::size_t failing,
   });
 }
 
-class FailingAllocations : public testing::TestWithParam<Question> {};
+class FailingAllocations : public testing::TestWithParam<Question> {
+ protected:
+  // What the process itself sets up once, at the first exception for instance, is not the
+  // library's.
+  static void SetUpTestSuite() {
+    const LoadedLibrary library;
+    for (const Question& question : questions()) {
+      answer(library.calls(), question);
+    }
+  }
+};
 
 TEST_P(FailingAllocations, InTheFirstCallOfAProcessLeaveTheNextOneRight) {
   const std::string expected = answerOfFirstCall(GetParam());
@@ -136,15 +146,17 @@ TEST(FailuresInARow, LeaveTheTablesSound) {
 // The count of what is allocated serves here too: with every text an error may end a call
 // elsewhere.
 TEST(Unloading, FreesWhatRandomTextsLeftBehind) {
-  const std::ptrdiff_t before = FailingNew::live();
-  {
+  const auto askRandomQuestions = [] {
     const LoadedLibrary library;
     RandomTexts texts(1);
     for (int i = 0; i < 300; ++i) {
       const Question question = randomQuestion(texts);
       answer(library.calls(), question);
     }
-  }
+  };
+  askRandomQuestions();
+  const std::ptrdiff_t before = FailingNew::live();
+  askRandomQuestions();
   EXPECT_EQ(FailingNew::live(), before);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,11 @@ struct Question {
   enum class Kind { columns, usages, renaming };
   Kind kind;
   vorn::WideString text;
+
+  // For the names of tests, which the bytes of an object would make different in each run.
+  friend std::ostream& operator<<(std::ostream& out, const Question& question) {
+    return out << "text of " << question.text.size() << " units";
+  }
 };
 
 /// What the host gets, be it an exception, in one line that can be compared.
