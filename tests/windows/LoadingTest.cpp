@@ -1,0 +1,92 @@
+// A host loads and unloads the library as often as it likes.
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <atomic>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+#include "LoadedLibrary.h"
+
+namespace {
+
+using Columns = std::vector<std::pair<vorn::WideString, vorn::CypherType>>;
+
+void callEverything(const LoadedLibrary& library) {
+  Columns columns;
+  ASSERT_EQ(library.getOutputNamesAndTypes(L"MATCH (größe)-[r]->() RETURN größe, r", columns), 0);
+  ASSERT_EQ(columns,
+            (Columns{{L"größe", vorn::CypherType::Node}, {L"r", vorn::CypherType::Relationship}}));
+  ASSERT_EQ(library.getOutputNamesAndTypes(L"MATCH (", columns), 1);
+  ASSERT_EQ(library.getVariableUsages(L"n.age > 3 AND m:Adult").size(), 2U);
+  ASSERT_EQ(library.replaceVariableNames(L"n.age > 3", {{L"n", L"m"}}), L"`m`.age > 3");
+  ASSERT_THROW(library.getVariableUsages(L"any(x IN n.list WHERE x)"), std::logic_error);
+}
+
+/// What the process has allocated, whatever allocator it came from.
+std::size_t privateMemory() {
+  std::size_t total = 0;
+  MEMORY_BASIC_INFORMATION region{};
+  for (const char* place = nullptr; VirtualQuery(place, &region, sizeof region) != 0;
+       place += region.RegionSize) {
+    total += region.State == MEM_COMMIT && region.Type == MEM_PRIVATE ? region.RegionSize : 0;
+  }
+  return total;
+}
+
+DWORD handles() {
+  DWORD count = 0;
+  GetProcessHandleCount(GetCurrentProcess(), &count);
+  return count;
+}
+
+}  // namespace
+
+TEST(Loading, DoesNotGrowTheProcessOverAThousandRounds) {
+  constexpr int rounds = 1000;
+  constexpr int warmUp = 100;
+  // Less than the smallest of the tables that a round builds.
+  constexpr std::size_t allowedForARound = 4096;
+  std::size_t memoryBefore = 0;
+  DWORD handlesBefore = 0;
+  for (int i = 0; i < rounds; ++i) {
+    if (i == warmUp) {
+      memoryBefore = privateMemory();
+      handlesBefore = handles();
+    }
+    {
+      const LoadedLibrary library;
+      callEverything(library);
+      if (HasFatalFailure()) {
+        return;
+      }
+    }
+    ASSERT_FALSE(LoadedLibrary::isLoaded());
+  }
+  EXPECT_LT(privateMemory(), memoryBefore + (rounds - warmUp) * allowedForARound);
+  EXPECT_LE(handles(), handlesBefore + rounds / 100);
+}
+
+TEST(Loading, BuildsTheTablesOnceThoughManyThreadsCallFirst) {
+  constexpr int rounds = 20;
+  constexpr int threads = 8;
+  for (int i = 0; i < rounds; ++i) {
+    const LoadedLibrary library;
+    std::atomic<int> waiting = threads;
+    std::vector<std::thread> callers;
+    callers.reserve(threads);
+    for (int k = 0; k < threads; ++k) {
+      callers.emplace_back([&] {
+        for (--waiting; waiting > 0;) {
+          std::this_thread::yield();
+        }
+        callEverything(library);
+      });
+    }
+    for (std::thread& caller : callers) {
+      caller.join();
+    }
+  }
+}
