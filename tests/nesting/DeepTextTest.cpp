@@ -23,13 +23,13 @@ WideString renamed(const WideString& expression) {
 
 class NestedText : public testing::TestWithParam<Shape> {};
 
-TEST_P(NestedText, OfTwoHundredFiftyLevelsFitsOneMebibyte) {
-  const WideString text = GetParam().nested(250);
+TEST_P(NestedText, OfThePromisedLevelsFitsOneMebibyte) {
+  const WideString text = GetParam().nested(VORN_LEVELS_IN_A_MEBIBYTE);
   onStackOf(mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
 }
 
-TEST_P(NestedText, OfTwoThousandLevelsFitsEightMebibytes) {
-  const WideString text = GetParam().nested(2000);
+TEST_P(NestedText, OfEightTimesAsManyLevelsFitsEightMebibytes) {
+  const WideString text = GetParam().nested(8 * VORN_LEVELS_IN_A_MEBIBYTE);
   onStackOf(8 * mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
 }
 

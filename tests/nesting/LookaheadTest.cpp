@@ -60,9 +60,10 @@ TEST(LookingAhead, DoesNotTakeANameEndForTheEndOfACase) {
 }
 
 TEST(LookingAhead, FromDeepInsideATextCountsBothDepths) {
-  const WideString text = wide(repeated("(", 25) + "[x IN " + repeated("[", 25) + "a" +
-                               repeated("]", 25) + "]" + repeated(")", 25));
-  onStackOf(128 * kibibyte, [&] {
+  constexpr std::size_t fitting = 240;  // alone
+  const WideString text = wide(repeated("(", fitting) + "[x IN " + repeated("[", fitting) + "a" +
+                               repeated("]", fitting) + "]" + repeated(")", fitting));
+  onStackOf(mebibyte, [&] {
     EXPECT_THROW(vorn::ReplaceVariableNamesInPropertyFilterOCExpression(text, {}),
                  std::length_error);
   });
