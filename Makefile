@@ -42,6 +42,16 @@ allocations: setup $(BUILD)/build.ninja ## let every allocation of every first c
 	@cmake --build --preset release --target VornLib failing_allocations_test
 	@VORN_EVERY_ALLOCATION=1 $(BUILD)/tests/robustness/failing_allocations_test
 
+test-asan: setup ## run the tests under AddressSanitizer and UBSan
+	@cmake --preset asan >/dev/null
+	@cmake --build --preset asan
+	@tools/test-asan.sh
+
+test-tsan: setup ## run the tests of the functions under ThreadSanitizer
+	@cmake --preset tsan >/dev/null
+	@cmake --build --preset tsan
+	@ctest --preset tsan
+
 check-embedding: setup ## build hosts with the library inside their build, shared and static
 	@tests/packaging/embedded_test.py
 
