@@ -23,6 +23,10 @@ $(BUILD)/build.ninja: | setup
 build: setup $(BUILD)/build.ninja ## build the library and vorn-inspect
 	@cmake --build --preset release --target VornLib vorn-inspect
 
+release: setup ## build the library for packages, optimised as a whole by a profile, in build/optimized
+	@tools/install-packages.sh bench
+	@tools/build-optimised.sh
+
 run: build ## print the answers for the sample queries and filters
 	@examples/show-samples.sh $(BUILD)/vorn-inspect
 
