@@ -59,7 +59,9 @@ class Bytes {
 int sign(int number) { return static_cast<int>(number > 0) - static_cast<int>(number < 0); }
 
 /// As comparisons read it: up to the first zero.
-WideString upToZero(const WideString& text) { return text.c_str(); }
+WideString upToZero(const WideString& text) {
+  return text.c_str();  // NOLINT(readability-redundant-string-cstr): that is where it ends
+}
 
 /// Strings beside what they should hold. Nothing stands for one whose buffer was taken away.
 class Strings {
@@ -129,6 +131,8 @@ class Strings {
         pointers[static_cast<std::size_t>(count++)] = &objects[i];
       }
     }
+    // An iterator, which only some libraries make a pointer.
+    // NOLINTNEXTLINE(readability-qualified-auto)
     const auto end = pointers.begin() + count;
     std::array<String*, objectCount> before = pointers;
     StringArray array(pointers.data(), count);
@@ -150,7 +154,7 @@ class Strings {
  private:
   void append(std::size_t i, const WideString& text) {
     if (expected[i]->size() < longestText) {
-      objects[i].ConcatImpl(text.c_str(), text.size());
+      objects[i].ConcatImpl(text.c_str(), static_cast<unsigned long>(text.size()));
       *expected[i] += text;
     }
   }
@@ -162,7 +166,7 @@ class Strings {
     const std::size_t from = bytes.nextBelow(expected[i]->size() + 1);
     const vorn::WideChar* const tail = static_cast<const vorn::WideChar*>(objects[i]) + from;
     const WideString tailText = expected[i]->substr(from);
-    objects[i].ConcatImpl(tail, tailText.size());
+    objects[i].ConcatImpl(tail, static_cast<unsigned long>(tailText.size()));
     *expected[i] += tailText;
   }
 

@@ -4,7 +4,7 @@
 #include <windows.h>
 #else
 #include <pthread.h>
-#include <signal.h>
+#include <signal.h>  // NOLINT(modernize-deprecated-headers): POSIX has more in it
 #endif
 
 #include <cstddef>
@@ -79,10 +79,10 @@ StackBounds currentBounds(std::uintptr_t position) {
 
 std::uintptr_t stackEnd(std::uintptr_t position) {
   // What is left to assume of a stack that the platform knows nothing of.
-  constexpr std::uintptr_t assumedSize = 64 * 1024;
+  constexpr std::uintptr_t assumedSize = std::uintptr_t{64} * 1024;
   // A main thread without a limit seems to own all memory down to the next mapping, but the kernel
   // stops it short of that.
-  constexpr std::uintptr_t largestSize = 64 * 1024 * 1024;
+  constexpr std::uintptr_t largestSize = std::uintptr_t{64} * 1024 * 1024;
   const StackBounds bounds = currentBounds(position);
   if (!bounds.hold(position)) {
     return position - assumedSize;

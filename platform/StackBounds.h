@@ -9,6 +9,7 @@
 namespace vorn {
 
 /// Where the current stack frame stands. Stacks grow towards lower addresses on all our platforms.
+// NOLINTBEGIN(cppcoreguidelines-pro-type-reinterpret-cast): an address is asked for.
 inline std::uintptr_t stackPosition() {
 #if defined(_MSC_VER)
   return reinterpret_cast<std::uintptr_t>(_AddressOfReturnAddress());
@@ -16,6 +17,7 @@ inline std::uintptr_t stackPosition() {
   return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
 #endif
 }
+// NOLINTEND(cppcoreguidelines-pro-type-reinterpret-cast)
 
 /// The lowest address that the stack around `position`, a position on the calling thread's current
 /// stack, may grow to. If the platform cannot tell, which is so on the stack of a coroutine, an

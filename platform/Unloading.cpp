@@ -10,8 +10,10 @@ namespace vorn {
 
 namespace {
 
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): the process has one end.
 std::atomic<void (*)()> unloadAction{nullptr};
 std::atomic<bool> processEnds{false};
+// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
 void unload() {
   if (void (*const action)() = unloadAction.exchange(nullptr); action != nullptr && !processEnds) {
@@ -35,6 +37,11 @@ bool isProcessEnding() {
 }
 
 struct End {
+  End() = default;
+  End(const End&) = delete;
+  End& operator=(const End&) = delete;
+  End(End&&) = delete;
+  End& operator=(End&&) = delete;
   ~End() {
     processEnds = isProcessEnding();
     unload();
@@ -46,6 +53,11 @@ struct End {
 // At the end of the process destructors of static objects run before the functions that are marked
 // as destructors, and after them when the library is unloaded.
 struct End {
+  End() = default;
+  End(const End&) = delete;
+  End& operator=(const End&) = delete;
+  End(End&&) = delete;
+  End& operator=(End&&) = delete;
   ~End() { processEnds = true; }
 };
 

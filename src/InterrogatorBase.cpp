@@ -25,6 +25,7 @@ void makeErrorsFatal(antlr4::Recognizer& recognizer) {
 
 }  // namespace
 
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the first nodes are raw memory.
 InterrogatorBase::InterrogatorBase(const WideString& text)
     : utf8Text(StringUtf8ImplDetail::StringWideCharToUtf8Impl(text)),
       inputStream(std::make_unique<antlr4::ANTLRInputStream>(std::string_view(utf8Text))),

@@ -16,12 +16,12 @@ namespace {
 
 // What a parse needs at any depth: for building the tables, prediction within one level, and
 // throwing.
-constexpr std::uintptr_t flatReserve = 32 * 1024;
+constexpr std::uintptr_t flatReserve = std::uintptr_t{32} * 1024;
 
 // What a level of nesting takes of the parser's own recursion: 64 bytes for each rule from one
 // bracket to the next, which are 23 in a subquery and 17 elsewhere at most.
-constexpr std::uintptr_t subquerySize = 24 * 64;
-constexpr std::uintptr_t levelSize = 18 * 64;
+constexpr std::uintptr_t subquerySize = std::uintptr_t{24} * 64;
+constexpr std::uintptr_t levelSize = std::uintptr_t{18} * 64;
 
 // The grammar's symbols for brackets have no names of their own.
 enum Bracket : std::size_t {

@@ -36,6 +36,8 @@
 ///   shape of text up to a bound, and are then begun anew. A text that nests deeply can also take
 ///   time that grows faster than its length. So bound the length of what a stranger may send.
 
+// NOLINTBEGIN(cppcoreguidelines-macro-usage): hosts compare versions in the preprocessor.
+
 /// The version of this header: semantic, so a host that was built with one works with every later
 /// library of the same major number. The build reads it here.
 #define VORN_VERSION_MAJOR 1
@@ -43,6 +45,8 @@
 #define VORN_VERSION_MINOR 0
 /// Grows when something is repaired.
 #define VORN_VERSION_PATCH 0
+
+// NOLINTEND(cppcoreguidelines-macro-usage)
 
 /// @cond
 #if defined(VORN_STATIC)
