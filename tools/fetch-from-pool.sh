@@ -1,8 +1,9 @@
 #!/bin/sh
 # Puts sources that Debian keeps in the pool of its archive into a folder under build/.
 #
-#   tools/fetch-from-pool.sh POOL_PATH SHA256 FOLDER
+#   tools/fetch-from-pool.sh POOL_PATH SHA256 FOLDER [PART]
 #
+# With PART, only that folder of the archive.
 # They come from the mirror this machine already uses. The file is pinned by its hash; nothing is
 # fetched when the folder is there.
 set -eu
@@ -12,7 +13,7 @@ fail() {
     exit 1
 }
 
-[ $# -eq 3 ] || fail "give the path in the pool, the hash and the folder, as tools/fetch-antlr-runtime.sh does."
+[ $# -eq 3 ] || [ $# -eq 4 ] || fail "give the path in the pool, the hash and the folder, as tools/fetch-antlr-runtime.sh does."
 archive=$(basename "$1")
 build=$(cd "$(dirname "$0")/.." && pwd)/build
 target=$build/$3
@@ -47,4 +48,4 @@ tar -xf "$work/$archive" -C "$work/unpacked" 2>"$work/log" ||
 # Most archives hold one folder with everything in it, some hold everything at their top.
 contents=$work/unpacked
 [ "$(ls "$contents" | wc -l)" -ne 1 ] || contents=$contents/$(ls "$contents")
-mv "$contents" "$target"
+mv "$contents${4:+/$4}" "$target"
