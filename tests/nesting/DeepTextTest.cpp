@@ -29,7 +29,7 @@ TEST_P(NestedText, OfThePromisedLevelsFitsOneMebibyte) {
 }
 
 TEST_P(NestedText, OfEightTimesAsManyLevelsFitsEightMebibytes) {
-  const WideString text = GetParam().nested(8 * VORN_LEVELS_IN_A_MEBIBYTE);
+  const WideString text = GetParam().nested(std::size_t{8} * VORN_LEVELS_IN_A_MEBIBYTE);
   onStackOf(8 * mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
 }
 

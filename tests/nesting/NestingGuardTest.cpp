@@ -21,7 +21,7 @@ namespace {
   auto* used = static_cast<char*>(__builtin_alloca(bytes));
   std::memset(used, 1, bytes);
   work();
-  EXPECT_EQ(used[0], 1);
+  EXPECT_EQ(*used, 1);
 }
 
 [[gnu::noinline]] bool refuses(const vorn::NestingGuard& guard) {

@@ -2,9 +2,9 @@
 
 #include <alloca.h>
 #include <gtest/gtest.h>
-#include <signal.h>
 #include <ucontext.h>
 
+#include <csignal>
 #include <cstring>
 #include <stdexcept>
 #include <vector>
@@ -45,6 +45,7 @@ Answer answerOnContextStack(std::size_t bytes, const WideString& text) {
   there.uc_link = &here;
   contextText = text;
   contextAnswer = Answer::None;
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the number of arguments, none, is its last.
   makecontext(
       &there, [] { contextAnswer = answerFor(contextText); }, 0);
   swapcontext(&here, &there);
@@ -84,7 +85,7 @@ Answer answerOnSignalStack(std::size_t bytes, const WideString& text) {
   sigaction(SIGUSR1, &action, &oldAction);
   contextText = text;
   contextAnswer = Answer::None;
-  raise(SIGUSR1);
+  EXPECT_EQ(raise(SIGUSR1), 0);
   sigaction(SIGUSR1, &oldAction, nullptr);
   sigaltstack(&oldStack, nullptr);
   return contextAnswer;
@@ -105,7 +106,7 @@ Answer answerBelow(std::size_t usedBytes, const WideString& text) {
   auto* used = static_cast<char*>(alloca(usedBytes));
   std::memset(used, 1, usedBytes);
   const Answer answer = answerFor(text);
-  return used[0] == 1 ? answer : Answer::Wrong;
+  return *used == 1 ? answer : Answer::Wrong;
 }
 
 TEST(StackThatIsNearlyUsedUp, GivesAnAnswerOrARefusal) {
