@@ -20,10 +20,19 @@ grammar Cypher;
 #include <memory_resource>
 }
 
-// The generated code never frees these tables. At the end of the process that is right, since other
-// threads may still use them; a host that unloads the library gets its memory back.
+// The generated code builds its tables inside std::call_once, which on some systems waits for ever once
+// an exception has left it. So they are built before, and the flag is raised when they are there.
+// Nor does it ever free them. At the end of the process that is right, since other threads may still
+// use them; a host that unloads the library gets its memory back.
 @lexer::definitions {
 namespace vorn {
+void buildLexerTables() {
+  if (cypherlexerLexerStaticData == nullptr) {
+    cypherlexerLexerInitialize();
+  }
+  std::call_once(cypherlexerLexerOnceFlag, [] {});
+}
+
 void releaseLexerTables() {
   delete cypherlexerLexerStaticData;
   cypherlexerLexerStaticData = nullptr;
@@ -33,6 +42,13 @@ void releaseLexerTables() {
 
 @parser::definitions {
 namespace vorn {
+void buildParserTables() {
+  if (cypherParserStaticData == nullptr) {
+    cypherParserInitialize();
+  }
+  std::call_once(cypherParserOnceFlag, [] {});
+}
+
 void releaseParserTables() {
   delete cypherParserStaticData;
   cypherParserStaticData = nullptr;

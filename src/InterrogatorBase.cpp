@@ -28,9 +28,9 @@ void makeErrorsFatal(antlr4::Recognizer& recognizer) {
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the first nodes are raw memory.
 InterrogatorBase::InterrogatorBase(const WideString& text)
     : utf8Text(StringUtf8ImplDetail::StringWideCharToUtf8Impl(text)),
-      inputStream(std::make_unique<antlr4::ANTLRInputStream>(std::string_view(utf8Text))),
-      lexer(std::make_unique<GuardedLexer>(inputStream.get(), guard)) {
-  releaseRecogniserTablesWithLibrary();
+      inputStream(std::make_unique<antlr4::ANTLRInputStream>(std::string_view(utf8Text))) {
+  buildRecogniserTables();
+  lexer = std::make_unique<GuardedLexer>(inputStream.get(), guard);
   makeErrorsFatal(*lexer);
   lexer->setInterpreter(
       new FailSafeLexerSimulator(*lexer, *lexer->getInterpreter<antlr4::atn::LexerATNSimulator>()));

@@ -2,8 +2,8 @@
 
 namespace vorn {
 
-/// Sees to it that the tables of the generated lexer and parser, which never free them, go with the
-/// library when a host unloads it. Only the first call does anything.
-void releaseRecogniserTablesWithLibrary();
+/// Builds the tables of the generated lexer and parser, and sees to it that they go with the library
+/// when a host unloads it. Only the first call does anything, and one after a call that failed.
+void buildRecogniserTables();
 
 }  // namespace vorn

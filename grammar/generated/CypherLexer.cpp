@@ -755,6 +755,13 @@ const atn::ATN& CypherLexer::getATN() const {
 
 
 namespace vorn {
+void buildLexerTables() {
+  if (cypherlexerLexerStaticData == nullptr) {
+    cypherlexerLexerInitialize();
+  }
+  std::call_once(cypherlexerLexerOnceFlag, [] {});
+}
+
 void releaseLexerTables() {
   delete cypherlexerLexerStaticData;
   cypherlexerLexerStaticData = nullptr;

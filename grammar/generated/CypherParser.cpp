@@ -778,6 +778,13 @@ antlr4::atn::SerializedATNView CypherParser::getSerializedATN() const {
 
 
 namespace vorn {
+void buildParserTables() {
+  if (cypherParserStaticData == nullptr) {
+    cypherParserInitialize();
+  }
+  std::call_once(cypherParserOnceFlag, [] {});
+}
+
 void releaseParserTables() {
   delete cypherParserStaticData;
   cypherParserStaticData = nullptr;

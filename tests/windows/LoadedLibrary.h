@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include <string>
+#include <string_view>
 
 #include "vorn/vorn.h"
 
@@ -20,6 +20,10 @@ class LoadedLibrary {
   static bool isLoaded();
 
   HMODULE module() const { return handle; }
+
+  /// Has the library call `replacement` for a function of this mangled name that it imports.
+  /// Throws std::runtime_error if it imports none.
+  void replaceImport(std::string_view mangledName, void* replacement) const;
 
   decltype(&vorn::GetOutputNamesAndTypes) getOutputNamesAndTypes;
   decltype(&vorn::GetVariableUsagesInPropertyFilterOCExpression) getVariableUsages;

@@ -4,6 +4,8 @@
 #include <windows.h>
 
 #include <atomic>
+#include <limits>
+#include <new>
 #include <stdexcept>
 #include <thread>
 #include <vector>
@@ -42,6 +44,16 @@ DWORD handles() {
   return count;
 }
 
+/// How many allocations succeed before one fails.
+std::size_t allocationsLeft = 0;
+
+void* failOnce(std::size_t bytes) {
+  if (allocationsLeft-- == 0) {
+    throw std::bad_alloc();
+  }
+  return operator new(bytes);
+}
+
 }  // namespace
 
 TEST(Loading, DoesNotGrowTheProcessOverAThousandRounds) {
@@ -67,6 +79,24 @@ TEST(Loading, DoesNotGrowTheProcessOverAThousandRounds) {
   }
   EXPECT_LT(privateMemory(), memoryBefore + (rounds - warmUp) * allowedForARound);
   EXPECT_LE(handles(), handlesBefore + rounds / 100);
+}
+
+// std::call_once of this compiler's library waits for ever after its function has thrown.
+TEST(Loading, LeavesNoLockHeldWhenTheFirstCallRunsOutOfMemory) {
+  int failures = 0;
+  for (std::size_t successes = 0; successes < 100000; successes = 2 * successes + 1) {
+    const LoadedLibrary library;
+    library.replaceImport("_Znwy", reinterpret_cast<void*>(&failOnce));
+    allocationsLeft = successes;
+    Columns columns;
+    if (library.getOutputNamesAndTypes(L"RETURN 1 AS one", columns) == 1) {
+      EXPECT_TRUE(columns.empty());
+      ++failures;
+    }
+    allocationsLeft = std::numeric_limits<std::size_t>::max();
+    callEverything(library);
+  }
+  EXPECT_GE(failures, 10);
 }
 
 TEST(Loading, BuildsTheTablesOnceThoughManyThreadsCallFirst) {
