@@ -56,6 +56,12 @@ test-tsan: setup ## run the tests of the functions under ThreadSanitizer
 	@cmake --build --preset tsan
 	@ctest --preset tsan
 
+coverage: setup ## fail if tests run less than 95 % of our lines; HTML in build/coverage/report
+	@tools/install-packages.sh coverage
+	@cmake --preset coverage >/dev/null
+	@cmake --build --preset coverage
+	@tools/measure-coverage.sh
+
 check-embedding: setup ## build hosts with the library inside their build, shared and static
 	@tests/packaging/embedded_test.py
 

@@ -72,6 +72,11 @@ class Usages(InspectTest):
             result.output, f'{{"error":{{"kind":"forbidden","message":"{FORBIDDEN}"}}}}\n'
         )
 
+    def test_of_a_text_that_nests_too_deeply_fail_in_a_kind_of_its_own(self) -> None:
+        shallow, deep = answer_lines("usages", {"expression": "(n)"}, {"expression": "(" * 200_000})
+        self.assertEqual(len(shallow["usages"]), 1)
+        self.assertEqual(deep["error"]["kind"], "other")
+
     def test_of_a_syntax_error_as_json(self) -> None:
         result = run("usages", "--json", "n.age\n> )")
         self.assertEqual(result.status, 1)
