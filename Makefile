@@ -130,6 +130,10 @@ check-recipes: setup ## follow docs/recipes.md in a copy of the sources
 	@tools/fetch-antlr-tool.sh
 	@PYTHONDONTWRITEBYTECODE=1 tests/documents/documents_test.py . $(BUILD) c++ --recipes
 
+check-other-runtimes: setup ## build with an installed ANTLR runtime, compare what newer tools generate
+	@tools/install-packages.sh grammar
+	@tools/check-other-runtimes.sh
+
 check-abi: setup $(BUILD)/build.ninja ## fail if hosts built with this version would meet another ABI
 	@tools/install-packages.sh abi
 	@cmake --build --preset release --target vorn_abi

@@ -23,7 +23,8 @@ grammar Cypher;
 // The generated code builds its tables inside std::call_once, which on some systems waits for ever once
 // an exception has left it. So they are built before, and the flag is raised when they are there.
 // Nor does it ever free them. At the end of the process that is right, since other threads may still
-// use them; a host that unloads the library gets its memory back.
+// use them; a host that unloads the library gets its memory back. Newer releases of the tool hold the
+// tables by a std::unique_ptr.
 @lexer::definitions {
 namespace vorn {
 void buildLexerTables() {
@@ -34,8 +35,8 @@ void buildLexerTables() {
 }
 
 void releaseLexerTables() {
-  delete cypherlexerLexerStaticData;
-  cypherlexerLexerStaticData = nullptr;
+  const std::unique_ptr<CypherLexerStaticData> tables(
+      std::exchange(cypherlexerLexerStaticData, nullptr));
 }
 }
 }
@@ -50,8 +51,8 @@ void buildParserTables() {
 }
 
 void releaseParserTables() {
-  delete cypherParserStaticData;
-  cypherParserStaticData = nullptr;
+  const std::unique_ptr<CypherParserStaticData> tables(
+      std::exchange(cypherParserStaticData, nullptr));
 }
 }
 }

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Puts sources that Debian keeps in the pool of its archive into a folder under build/.
+# Puts sources, or a package, that Debian keeps in the pool of its archive into a folder under build/.
 #
 #   tools/fetch-from-pool.sh POOL_PATH SHA256 FOLDER [PART]
 #
@@ -43,7 +43,10 @@ done
 [ -f "$work/$archive" ] ||
     fail "cannot fetch $archive: $(grep -m 1 '^[EW]:' "$work/log" || tail -n 1 "$work/log")"
 mkdir "$work/unpacked"
-tar -xf "$work/$archive" -C "$work/unpacked" 2>"$work/log" ||
+case "$archive" in
+    *.deb) dpkg-deb -x "$work/$archive" "$work/unpacked" 2>"$work/log" ;;
+    *) tar -xf "$work/$archive" -C "$work/unpacked" 2>"$work/log" ;;
+esac ||
     fail "cannot unpack $archive: $(head -n 1 "$work/log")"
 # Most archives hold one folder with everything in it, some hold everything at their top.
 contents=$work/unpacked

@@ -1,8 +1,9 @@
 #!/bin/sh
-# Generates lexer, parser and listeners from grammar/Cypher.g4 with the ANTLR 4.10 tool.
+# Generates lexer, parser and listeners from grammar/Cypher.g4 with the ANTLR tool.
 #
-#   tools/generate-recognisers.sh            rewrite grammar/generated/
-#   tools/generate-recognisers.sh --check    fail if grammar/generated/ is not what the tool writes
+#   tools/generate-recognisers.sh                     rewrite grammar/generated/, by release 4.10
+#   tools/generate-recognisers.sh --check             fail if grammar/generated/ is not what that writes
+#   tools/generate-recognisers.sh --into FOLDER JAR   write into another folder, by another tool
 set -eu
 
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -14,13 +15,15 @@ fail() {
     exit 1
 }
 
-case "${1-}" in
-    "" | --check) ;;
-    *) fail "the only argument is --check." ;;
+case "${1-} $#" in
+    " 0" | "--check 1") ;;
+    "--into 3") generated=$(realpath -m "$2") jar=$(realpath -m "$3") ;;
+    *) fail "the arguments are none, or --check, or --into FOLDER JAR." ;;
 esac
 command -v java >/dev/null || fail "java is missing; tools/install-packages.sh grammar installs it."
 [ -f "$jar" ] || fail "$jar is missing; tools/fetch-antlr-tool.sh fetches it."
 
+mkdir -p "$root/build"
 work=$(mktemp -d "$root/build/generated.XXXXXX")
 trap 'rm -rf "$work"' EXIT
 trap 'exit 1' HUP INT TERM

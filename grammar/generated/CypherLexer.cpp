@@ -763,8 +763,8 @@ void buildLexerTables() {
 }
 
 void releaseLexerTables() {
-  delete cypherlexerLexerStaticData;
-  cypherlexerLexerStaticData = nullptr;
+  const std::unique_ptr<CypherLexerStaticData> tables(
+      std::exchange(cypherlexerLexerStaticData, nullptr));
 }
 }
 

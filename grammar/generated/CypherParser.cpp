@@ -786,8 +786,8 @@ void buildParserTables() {
 }
 
 void releaseParserTables() {
-  delete cypherParserStaticData;
-  cypherParserStaticData = nullptr;
+  const std::unique_ptr<CypherParserStaticData> tables(
+      std::exchange(cypherParserStaticData, nullptr));
 }
 }
 

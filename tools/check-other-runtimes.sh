@@ -1,0 +1,33 @@
+#!/bin/sh
+# Builds the library against Debian's package of the ANTLR 4.10 runtime and runs its tests, and compares
+# the recognisers that other releases of the ANTLR tool generate with the committed ones.
+#
+#   tools/check-other-runtimes.sh
+set -eu
+
+cd "$(dirname "$0")/.."
+build=build/system-antlr
+
+fail() {
+    echo "check-other-runtimes: $1" >&2
+    exit 1
+}
+
+for version in 4.10.1 4.11.1 4.12.0 4.13.2; do
+    tools/fetch-antlr-tool.sh $version
+    generated=build/recognisers-$version
+    tools/generate-recognisers.sh --into $generated build/antlr-$version-complete.jar
+    tests/grammar/same_networks.py grammar/generated $generated ||
+        fail "the networks of release $version differ from those of 4.10."
+done
+
+tools/fetch-antlr-package.sh
+# How deep a text fits a stack is promised for the runtime inside.
+cmake --preset release -B $build -DVORN_ANTLR=system \
+    -DCMAKE_PREFIX_PATH="$PWD/build/antlr4-package-4.10/usr" >/dev/null
+cmake --build $build --target VornLib vorn-inspect grammar_test columns_test filters_test
+readelf -d $build/libVornLib.so | grep -qF '[libantlr4-runtime.so.4.10]' ||
+    fail "$build/libVornLib.so does not use the installed runtime."
+ctest --test-dir $build --no-tests=error --output-on-failure -j 2 \
+    -L '^(grammar|columns|filters)_test$'
+ctest --test-dir $build --no-tests=error --output-on-failure -j 2 -R '^inspect_'
