@@ -68,7 +68,7 @@ check-embedding: setup ## build hosts with the library inside their build, share
 windows: ## cross-build library, programs and tests for 64-bit Windows
 	@tools/install-packages.sh windows
 	@tools/fetch-antlr-runtime.sh
-	@tools/fetch-windows-sources.sh
+	@tools/fetch-cross-sources.sh
 	@test -f $(WINDOWS_BUILD)/build.ninja || cmake --preset windows >/dev/null
 	@cmake --build --preset windows
 

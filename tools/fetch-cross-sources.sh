@@ -1,6 +1,6 @@
 #!/bin/sh
-# Puts the sources of libraries that Debian has for Linux only, and that the Windows build compiles
-# for itself, into folders under build/.
+# Puts the sources of libraries that Debian has for its own system only, and that cross builds compile
+# for themselves, into folders under build/.
 set -eu
 
 fetch=$(dirname "$0")/fetch-from-pool.sh

@@ -1,8 +1,8 @@
 # vorn_host_headers(target name): an imported target with the headers of /usr/include/NAME, and none of
-# the others there, which belong to Linux.
+# the others there, which belong to this system.
 function(vorn_host_headers target name)
   if(NOT EXISTS "/usr/include/${name}")
-    message(FATAL_ERROR "/usr/include/${name} is missing; `tools/install-packages.sh windows` installs it.")
+    message(FATAL_ERROR "/usr/include/${name} is missing; its package is in tools/install-packages.sh.")
   endif()
   set(folder "${CMAKE_BINARY_DIR}/host-headers/${name}")
   file(MAKE_DIRECTORY "${folder}")
