@@ -48,7 +48,7 @@ class Package(unittest.TestCase):
         return folder
 
     def output_of(self, program: Path, *arguments: str) -> str:
-#The build folder's DLLs must not help.
+        # The build folder's DLLs must not help.
         environment = {**os.environ, "WINEPATH": str(self.package / "bin")}
         output = run(EMULATOR, program, *arguments, env=environment, cwd=self.scratch)
         return output.replace("\r\n", "\n")
