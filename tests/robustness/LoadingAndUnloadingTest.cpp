@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "nesting/StackedThread.h"
 #include "robustness/FailingNew.h"
 #include "robustness/LoadedLibrary.h"
 
@@ -30,6 +32,21 @@ TEST(LoadingAndUnloading, AThousandTimesAnswersAlwaysTheSameInTheSameMemory) {
     ASSERT_EQ(answersOfALoadedLibrary(), expected);
   }
   EXPECT_EQ(FailingNew::live(), before);
+}
+
+// What was remembered of a deep text is a chain as long as the text was deep.
+TEST(LoadingAndUnloading, AfterADeepTextTakesLittleStack) {
+  const vorn::WideString text = vorn::WideString(u"RETURN ").append(1500, u'(') + u"(a)-[b]-(a)" +
+                                vorn::WideString(1500, u')');
+  auto library = std::make_unique<LoadedLibrary>();
+  int status = 1;
+  onStackOf(8 * mebibyte, [&] {
+    std::vector<std::pair<vorn::WideString, vorn::CypherType>> columns;
+    status = library->calls().columns(text, columns);
+  });
+  EXPECT_EQ(status, 0);
+  onStackOf(64 * kibibyte, [&] { library.reset(); });
+  EXPECT_FALSE(LoadedLibrary::isPresent());
 }
 
 }  // namespace
