@@ -66,7 +66,8 @@ TEST(GuardedParser, AsksTheGuardAtEachRule) {
     antlr4::ANTLRInputStream input("a");
     vorn::GuardedLexer lexer(&input, guard);
     antlr4::CommonTokenStream tokens(&lexer);
-    vorn::GuardedParser parser(&tokens, guard, *std::pmr::get_default_resource());
+    std::pmr::monotonic_buffer_resource nodes;
+    vorn::GuardedParser parser(&tokens, guard, nodes);
     below(440 * kibibyte, [&] { EXPECT_THROW(parser.oC_Expression(), std::length_error); });
   });
 }
