@@ -9,9 +9,11 @@ set -eu
 stacks='nesting_test|unusual_stacks_test'
 # Compilers and interpreters that are not instrumented start or load what is.
 hosts='documents|exported_symbols'
+# Takes a quarter of an hour instrumented, and counts what stays by itself.
+long='AThousandTimes'
 # The runtime loses an object in some of the places where an allocation fails. These tests count what
 # is lost, and bound it.
 losses='InALaterCallLeaveTheNextOneRight|LeaveTheTablesSound'
 
-ctest --preset asan --label-exclude "^($stacks)\$" --exclude-regex "^($hosts)\$|$losses"
+ctest --preset asan --label-exclude "^($stacks)\$" --exclude-regex "^($hosts)\$|$losses|$long"
 ASAN_OPTIONS=detect_leaks=0 ctest --preset asan --tests-regex "$losses"
