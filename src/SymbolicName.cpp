@@ -7,25 +7,26 @@ std::string quoteSymbolicName(std::string_view name) {
     return std::string(name);
   }
   // The quotes around the name, and room for two back quotes inside it to be doubled.
-  constexpr std::size_t room = 6;
+  constexpr std::size_t room = 4;
   std::string quoted;
   quoted.reserve(name.size() + room);
   quoted += '`';
-  for (const char c : name) {
-    quoted += c;
-    if (c == '`') {
-      quoted += '`';
-    }
+  for (std::size_t at = name.find('`'); at != std::string_view::npos; at = name.find('`')) {
+    quoted.append(name.substr(0, at)).append("``");
+    name.remove_prefix(at + 1);
   }
-  quoted += '`';
-  return quoted;
+  return quoted.append(name).append("`");
 }
 
 std::string unquoteSymbolicName(std::string_view text) {
-  std::string unquoted;
+  const std::size_t bare = text.find('`');
+  if (bare == std::string_view::npos) {
+    return std::string(text);
+  }
+  std::string unquoted(text.substr(0, bare));
   unquoted.reserve(text.size());
   bool escaped = false;
-  for (std::size_t i = 0; i < text.size(); ++i) {
+  for (std::size_t i = bare; i < text.size(); ++i) {
     if (text[i] != '`') {
       unquoted += text[i];
     } else if (!escaped) {
