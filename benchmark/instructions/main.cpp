@@ -15,7 +15,7 @@
 namespace {
 
 // One call alone may be the one in which the heap tidies up.
-constexpr int callsPerCount = 3;
+constexpr int callsPerCount = 2;
 
 void fillTables(const std::vector<Text>& texts, const Subject& subject) {
   for (const Text& text : texts) {
@@ -29,6 +29,7 @@ void count(const std::vector<Text>& texts, const Subject& subject) {
   for (std::size_t i = 0; i < texts.size(); ++i) {
     for (const Subject::Function function : functionsFor(texts[i])) {
       const std::string name = subject.name + '\t' + nameOf(function) + '\t' + std::to_string(i);
+      subject.call(function, texts[i]);  // sorts what the text before has left on the heap
       CALLGRIND_ZERO_STATS;
       for (int call = 0; call < callsPerCount; ++call) {
         subject.call(function, texts[i]);
