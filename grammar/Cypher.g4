@@ -17,6 +17,7 @@ grammar Cypher;
 
 @parser::postinclude {
 #undef NULL
+#include <bitset>
 #include <memory_resource>
 }
 
@@ -58,8 +59,35 @@ void releaseParserTables() {
 }
 
 // Hides the runtime's tracker of the same name from the generated rules, so that the nodes of a tree
-// can come from memory that is released as a whole. Without such memory they come from the heap.
+// can come from memory that is released as a whole, and tell listeners of some rules only. Without such
+// memory they come from the heap and tell of all.
 @parser::members {
+  using Rules = std::bitset<RuleOC_Dash + 1>;
+
+  // For each node that it is told of, a listener is searched for its generated type, twice.
+  template <typename Node>
+  class SelectiveNode final : public Node {
+   public:
+    template <typename... Arguments>
+    explicit SelectiveNode(const Rules& rules, Arguments... arguments)
+        : Node(arguments...), heard(rules) {}
+
+    void enterRule(antlr4::tree::ParseTreeListener* listener) override {
+      if (heard[Node::getRuleIndex()]) {
+        Node::enterRule(listener);
+      }
+    }
+
+    void exitRule(antlr4::tree::ParseTreeListener* listener) override {
+      if (heard[Node::getRuleIndex()]) {
+        Node::exitRule(listener);
+      }
+    }
+
+   private:
+    const Rules& heard;
+  };
+
   class NodeTracker {
    public:
     NodeTracker() = default;
@@ -77,6 +105,8 @@ void releaseParserTables() {
 
     void takeNodesFrom(std::pmr::memory_resource& source) { memory = &source; }
 
+    void tellOnlyOf(const Rules& rules) { heard = rules; }
+
     template <typename Node, typename... Arguments>
     Node* createInstance(Arguments... arguments) {
       nodes.push_back(nullptr);
@@ -84,8 +114,9 @@ void releaseParserTables() {
       if (memory == nullptr) {
         nodes.back() = node = new Node(arguments...);
       } else {
-        nodes.back() = node =
-            new (memory->allocate(sizeof(Node), alignof(Node))) Node(arguments...);
+        using Selective = SelectiveNode<Node>;
+        nodes.back() = node = new (memory->allocate(sizeof(Selective), alignof(Selective)))
+            Selective(heard, arguments...);
         // Most nodes have one to three children, and the heap's smallest block holds three.
         node->children.reserve(3);
       }
@@ -93,6 +124,7 @@ void releaseParserTables() {
     }
 
    private:
+    Rules heard = Rules().set();
     std::pmr::memory_resource* memory = nullptr;
     std::vector<antlr4::tree::ParseTree*> nodes;
   };

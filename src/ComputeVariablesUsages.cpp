@@ -1,8 +1,6 @@
-#include <tree/ParseTreeWalker.h>
-
-#include <sstream>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "CypherBaseListener.h"
@@ -19,14 +17,12 @@ namespace {
 // nothing may be read by stepping from the first one towards the last.
 std::string forbiddenElementMessage(const std::string& typeName,
                                     const antlr4::ParserRuleContext* context) {
-  std::ostringstream message;
-  message.exceptions(std::ios_base::badbit);  // or a stream keeps quiet about a failed allocation
-  message << "The openCypher element '";
+  std::string element;
   if (context != nullptr && context->getStart() == context->getStop()) {
-    message << context->getStart()->getText();
+    element = context->getStart()->getText();
   }
-  message << "' of type '" << typeName << "' is forbidden in a property filter expression.";
-  return message.str();
+  return "The openCypher element '" + element + "' of type '" + typeName +
+         "' is forbidden in a property filter expression.";
 }
 
 [[noreturn]] void reject(const std::string& typeName, const antlr4::ParserRuleContext* context) {
@@ -57,17 +53,19 @@ class PropertyFilterListener : public CypherBaseListener {
   }
 };
 
-WideString wide(const std::string& utf8) {
+WideString wide(std::string_view utf8) {
   return StringUtf8ImplDetail::StringUtf8ToWideCharImpl(utf8);
 }
 
-WideString quotedWide(const std::string& name) { return wide(quoteSymbolicName(name)); }
+WideString quotedWide(std::string_view name) { return wide(quoteSymbolicName(name)); }
 
 }  // namespace
 
 std::map<WideString, VariableUsage> PropertyFilterExpressionInterrogator::computeVariablesUsages()
     const {
   struct Listener : PropertyFilterListener {
+    explicit Listener(const std::string& utf8Text) : source(utf8Text) {}
+
     // A variable counts where properties and labels can be read from it directly. In a filter
     // without forbidden elements that is every place where one stands.
     void exitOC_PropertyOrLabelsExpression(
@@ -78,24 +76,28 @@ std::map<WideString, VariableUsage> PropertyFilterExpressionInterrogator::comput
       }
       VariableAccess access;
       for (CypherParser::OC_PropertyLookupContext* lookup : ctx->oC_PropertyLookup()) {
-        access.propertyPath.push_back(quotedWide(sourceText(*lookup->oC_PropertyKeyName())));
+        access.propertyPath.push_back(quotedWide(source.of(*lookup->oC_PropertyKeyName())));
       }
       if (CypherParser::OC_NodeLabelsContext* nodeLabels = ctx->oC_NodeLabels()) {
         for (CypherParser::OC_NodeLabelContext* nodeLabel : nodeLabels->oC_NodeLabel()) {
-          access.labels.insert(quotedWide(sourceText(*nodeLabel->oC_LabelName())));
+          access.labels.insert(quotedWide(source.of(*nodeLabel->oC_LabelName())));
         }
       }
-      const std::string name = sourceText(*variable->oC_SymbolicName());
+      const std::string_view name = source.of(*variable->oC_SymbolicName());
       VariableUsage& usage = usages[quotedWide(name)];
       usage.accesses.insert(std::move(access));
       usage.writtenForms.insert(wide(name));
     }
 
+    SourceText source;
     std::map<WideString, VariableUsage> usages;
   };
 
-  Listener listener;
-  antlr4::tree::ParseTreeWalker::DEFAULT.walk(&listener, parseTree);
+  Listener listener(utf8Text);
+  walk(listener, *parseTree,
+       {CypherParser::RuleOC_ListComprehension, CypherParser::RuleOC_PatternComprehension,
+        CypherParser::RuleOC_Quantifier, CypherParser::RuleOC_PatternPredicate,
+        CypherParser::RuleOC_ExistentialSubquery, CypherParser::RuleOC_PropertyOrLabelsExpression});
   return std::move(listener.usages);
 }
 

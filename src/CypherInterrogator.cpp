@@ -1,7 +1,5 @@
 #include "CypherInterrogator.h"
 
-#include <tree/ParseTreeWalker.h>
-
 #include <algorithm>
 #include <string>
 #include <unordered_map>
@@ -22,10 +20,6 @@ struct Column {
 };
 
 using Columns = std::vector<Column>;
-
-std::string nameOf(const antlr4::ParserRuleContext& context) {
-  return unquoteSymbolicName(sourceText(context));
-}
 
 bool isNodeOrRelationship(CypherType type) {
   return type == CypherType::Node || type == CypherType::Relationship ||
@@ -59,6 +53,8 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
   // walk reaches after the projection around it, replaces that one's columns.
   class ResultColumnNamesAndTypesListener : public CypherBaseListener {
    public:
+    explicit ResultColumnNamesAndTypesListener(const std::string& utf8Text) : source(utf8Text) {}
+
     // Names bound in an earlier branch stay visible in the later ones.
     void enterOC_Union(CypherParser::OC_UnionContext* /*ctx*/) override {
       previousBranches.push_back(std::exchange(columns, {}));
@@ -80,7 +76,7 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
         if (auto* item = dynamic_cast<CypherParser::OC_ProjectionItemContext*>(child)) {
           project(*item, newScope);
         } else if (auto* terminal = dynamic_cast<antlr4::tree::TerminalNode*>(child);
-                   terminal != nullptr && terminal->getText() == "*") {
+                   terminal != nullptr && source.of(*terminal->getSymbol()) == "*") {
           projectAll(newScope);
         }
       }
@@ -103,6 +99,10 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
 
    private:
     using Scope = std::unordered_map<std::string, Column>;
+
+    [[nodiscard]] std::string nameOf(const antlr4::ParserRuleContext& context) const {
+      return unquoteSymbolicName(source.of(context));
+    }
 
     static void set(Scope& scope, const Column& column) {
       scope.insert_or_assign(column.name, column);
@@ -141,6 +141,8 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
                 [](const Column& left, const Column& right) { return left.name < right.name; });
     }
 
+    SourceText source;
+
    public:
     Scope variables;
     bool insideWith = false;
@@ -151,8 +153,11 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
   if (!resultColumns.empty()) {
     return resultColumns;
   }
-  ResultColumnNamesAndTypesListener listener;
-  antlr4::tree::ParseTreeWalker::DEFAULT.walk(&listener, parseTree);
+  ResultColumnNamesAndTypesListener listener(utf8Text);
+  walk(listener, *parseTree,
+       {CypherParser::RuleOC_Union, CypherParser::RuleOC_Unwind, CypherParser::RuleOC_With,
+        CypherParser::RuleOC_ProjectionItems, CypherParser::RuleOC_PatternPart,
+        CypherParser::RuleOC_NodePattern, CypherParser::RuleOC_RelationshipDetail});
   for (const Columns& branch : listener.previousBranches) {
     mergeBranch(listener.columns, branch);
   }

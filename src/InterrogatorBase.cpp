@@ -3,9 +3,11 @@
 #include <ANTLRInputStream.h>
 #include <CommonTokenStream.h>
 #include <atn/LexerATNSimulator.h>
+#include <tree/ParseTreeWalker.h>
 
 #include <string_view>
 
+#include "CypherListener.h"
 #include "FailSafeSimulators.h"
 #include "GuardedRecognisers.h"
 #include "PredictionTables.h"
@@ -42,5 +44,15 @@ InterrogatorBase::InterrogatorBase(const WideString& text)
 }
 
 InterrogatorBase::~InterrogatorBase() = default;
+
+void InterrogatorBase::walk(CypherListener& listener, antlr4::ParserRuleContext& tree,
+                            std::initializer_list<std::size_t> rules) const {
+  CypherParser::Rules heard;
+  for (const std::size_t rule : rules) {
+    heard.set(rule);
+  }
+  parser->_tracker.tellOnlyOf(heard);
+  antlr4::tree::ParseTreeWalker::DEFAULT.walk(&listener, &tree);
+}
 
 }  // namespace vorn

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <initializer_list>
 #include <memory>
 #include <memory_resource>
 #include <string>
@@ -12,11 +13,13 @@
 namespace antlr4 {
 class ANTLRInputStream;
 class CommonTokenStream;
+class ParserRuleContext;
 }  // namespace antlr4
 
 namespace vorn {
 
 class CypherLexer;
+class CypherListener;
 class CypherParser;
 
 /// Owns the parse pipeline over one text and makes its first lexical or syntax error fatal. The
@@ -31,6 +34,11 @@ class InterrogatorBase {
 
  protected:
   explicit InterrogatorBase(const WideString& text);
+
+  /// Walks the tree with a listener that overrides no enter or exit operation but those of the
+  /// given rules, which are the only ones that it is told of.
+  void walk(CypherListener& listener, antlr4::ParserRuleContext& tree,
+            std::initializer_list<std::size_t> rules) const;
 
   NestingGuard guard;  // the first, so that nothing is done on a stack that has no room left
   // Hold the nodes of the parse tree, which are released together. Those of a short text need no

@@ -1,10 +1,10 @@
-#include <tree/ParseTreeWalker.h>
-
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "CypherBaseListener.h"
 #include "PropertyFilterExpressionInterrogator.h"
+#include "SourceText.h"
 #include "SymbolicName.h"
 #include "platform/StringUtf8ImplDetail.h"
 
@@ -24,14 +24,16 @@ WideString PropertyFilterExpressionInterrogator::replaceVariableNames(
   // Unlike the search for usages this does not validate: variables inside forbidden elements are
   // renamed too.
   struct Listener : CypherBaseListener {
+    explicit Listener(const std::string& utf8Text) : source(utf8Text) {}
+
     void visitTerminal(antlr4::tree::TerminalNode* node) override {
-      const std::string text = node->getText();
+      const std::string_view text = source.of(*node->getSymbol());
       if (!insideVariable) {
         output += text;
         return;
       }
       const auto renamed = renames.find(quoteSymbolicName(text));
-      output += renamed == renames.end() ? text : renamed->second;
+      output += renamed == renames.end() ? text : std::string_view(renamed->second);
     }
 
     void enterOC_Variable(CypherParser::OC_VariableContext* /*ctx*/) override {
@@ -42,19 +44,20 @@ WideString PropertyFilterExpressionInterrogator::replaceVariableNames(
       insideVariable = false;
     }
 
+    SourceText source;
     std::string output;                                    // UTF-8
     std::unordered_map<std::string, std::string> renames;  // UTF-8, back-quoted on both sides
     bool insideVariable = false;
   };
 
-  Listener listener;
+  Listener listener(utf8Text);
   listener.output.reserve(2 * utf8Text.size());
   listener.renames.reserve(renames.size());
   for (const auto& [oldName, newName] : renames) {
     std::string replacement = quotedUtf8(newName);
     listener.renames.insert_or_assign(quotedUtf8(oldName), std::move(replacement));
   }
-  antlr4::tree::ParseTreeWalker::DEFAULT.walk(&listener, parseTree);
+  walk(listener, *parseTree, {CypherParser::RuleOC_Variable});
   return StringUtf8ImplDetail::StringUtf8ToWideCharImpl(listener.output);
 }
 

@@ -8,6 +8,7 @@
 
 
 #undef NULL
+#include <bitset>
 #include <memory_resource>
 
 

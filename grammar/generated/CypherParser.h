@@ -8,6 +8,7 @@
 
 
 #undef NULL
+#include <bitset>
 #include <memory_resource>
 
 
@@ -97,6 +98,32 @@ public:
   antlr4::atn::SerializedATNView getSerializedATN() const override;
 
 
+    using Rules = std::bitset<RuleOC_Dash + 1>;
+
+    // For each node that it is told of, a listener is searched for its generated type, twice.
+    template <typename Node>
+    class SelectiveNode final : public Node {
+     public:
+      template <typename... Arguments>
+      explicit SelectiveNode(const Rules& rules, Arguments... arguments)
+          : Node(arguments...), heard(rules) {}
+
+      void enterRule(antlr4::tree::ParseTreeListener* listener) override {
+        if (heard[Node::getRuleIndex()]) {
+          Node::enterRule(listener);
+        }
+      }
+
+      void exitRule(antlr4::tree::ParseTreeListener* listener) override {
+        if (heard[Node::getRuleIndex()]) {
+          Node::exitRule(listener);
+        }
+      }
+
+     private:
+      const Rules& heard;
+    };
+
     class NodeTracker {
      public:
       NodeTracker() = default;
@@ -114,6 +141,8 @@ public:
 
       void takeNodesFrom(std::pmr::memory_resource& source) { memory = &source; }
 
+      void tellOnlyOf(const Rules& rules) { heard = rules; }
+
       template <typename Node, typename... Arguments>
       Node* createInstance(Arguments... arguments) {
         nodes.push_back(nullptr);
@@ -121,8 +150,9 @@ public:
         if (memory == nullptr) {
           nodes.back() = node = new Node(arguments...);
         } else {
-          nodes.back() = node =
-              new (memory->allocate(sizeof(Node), alignof(Node))) Node(arguments...);
+          using Selective = SelectiveNode<Node>;
+          nodes.back() = node = new (memory->allocate(sizeof(Selective), alignof(Selective)))
+              Selective(heard, arguments...);
           // Most nodes have one to three children, and the heap's smallest block holds three.
           node->children.reserve(3);
         }
@@ -130,6 +160,7 @@ public:
       }
 
      private:
+      Rules heard = Rules().set();
       std::pmr::memory_resource* memory = nullptr;
       std::vector<antlr4::tree::ParseTree*> nodes;
     };
