@@ -31,11 +31,15 @@ Other* convertText(const Unit* first, const Unit* last, Other* output, const Con
 }  // namespace
 
 std::string StringWideCharToUtf8Impl(std::basic_string_view<vorn::WideChar> text) {
-  // One unit takes three bytes at most.
-  const bool asciiOnly = std::all_of(text.begin(), text.end(), isAscii<vorn::WideChar>);
-  std::string utf8(asciiOnly ? text.size() : 3 * text.size(), '\0');
+  std::string utf8(text.size(), '\0');
+  std::size_t ascii = 0;
+  for (; ascii < text.size() && isAscii(text[ascii]); ++ascii) {
+    utf8[ascii] = static_cast<char>(text[ascii]);
+  }
+  // From here on one unit takes three bytes at most.
+  utf8.resize(ascii + 3 * (text.size() - ascii));
   const char* const end =
-      convertText(text.data(), text.data() + text.size(), utf8.data(),
+      convertText(text.data() + ascii, text.data() + text.size(), utf8.data() + ascii,
                   [](const vorn::WideChar* first, const vorn::WideChar* last, char* output) {
                     return utf8::utf16to8(first, last, output);
                   });
