@@ -75,6 +75,16 @@ windows: ## cross-build library, programs and tests for 64-bit Windows
 windows-test: build windows ## run all tests for 64-bit Windows under Wine
 	@tools/test-under-wine.sh
 
+arm64: ## cross-build library, programs and tests for Linux on 64-bit ARM
+	@tools/install-packages.sh arm64
+	@tools/fetch-antlr-runtime.sh
+	@tools/fetch-cross-sources.sh
+	@test -f build/arm64/build.ninja || cmake --preset arm64 >/dev/null
+	@cmake --build --preset arm64
+
+arm64-test: arm64 ## run the tests for 64-bit ARM in an emulator
+	@ctest --preset arm64
+
 fuzz: setup ## run each fuzzer for SECONDS=60
 	@tools/install-packages.sh fuzz
 	@cmake --preset fuzz >/dev/null
