@@ -21,20 +21,14 @@ namespace {
 // A configuration takes about 170 bytes, all that belongs to it included: this is some 64 MiB.
 constexpr std::size_t maxConfigurations = 400'000;
 
-// Is never destroyed: at the end of the process other threads may still make calls. The tables are
-// let go all the same, for the sake of a host that unloads the library.
+// Is never destroyed: at the end of the process other threads may still make calls, and Windows has
+// ended them by then wherever they were, maybe holding the mutex.
 struct Shared {
   static Shared& instance() {
     alignas(Shared) static std::array<std::byte, sizeof(Shared)> storage;
     // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): guarded by its mutex
     static auto* const shared = ::new (storage.data()) Shared;
-    static const std::unique_ptr<Shared, void (*)(Shared*)> atUnloading(shared, letTablesGo);
     return *shared;
-  }
-
-  static void letTablesGo(Shared* shared) {
-    const std::lock_guard<std::mutex> lock(shared->mutex);
-    shared->tables.reset();
   }
 
   std::mutex mutex;
@@ -117,6 +111,12 @@ std::shared_ptr<PredictionTables> PredictionTables::current(const antlr4::atn::A
     outgrown = std::exchange(shared.tables, std::move(fresh));
   }
   return shared.tables;
+}
+
+void PredictionTables::release() {
+  Shared& shared = Shared::instance();
+  const std::lock_guard<std::mutex> lock(shared.mutex);
+  shared.tables.reset();
 }
 
 }  // namespace vorn

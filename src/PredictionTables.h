@@ -25,6 +25,9 @@ class PredictionTables {
   /// The tables for a call that begins.
   static std::shared_ptr<PredictionTables> current(const antlr4::atn::ATN& atn);
 
+  /// Lets the tables go, for the sake of a host that unloads the library.
+  static void release();
+
   PredictionTables(const PredictionTables&) = delete;
   PredictionTables& operator=(const PredictionTables&) = delete;
   PredictionTables(PredictionTables&&) = delete;

@@ -1,5 +1,6 @@
 #include "RecogniserTables.h"
 
+#include "PredictionTables.h"
 #include "platform/Unloading.h"
 
 namespace vorn {
@@ -24,6 +25,7 @@ bool done(Action action) {
 void buildRecogniserTables() {
   static const bool released = done([] {
     runWhenUnloaded([] {
+      PredictionTables::release();
       releaseParserTables();
       releaseLexerTables();
     });

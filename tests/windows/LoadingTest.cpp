@@ -1,6 +1,7 @@
 // A host loads and unloads the library as often as it likes.
 
 #include <gtest/gtest.h>
+#include <pthread.h>
 #include <windows.h>
 
 #include <atomic>
@@ -52,6 +53,30 @@ void* failOnce(std::size_t bytes) {
     throw std::bad_alloc();
   }
   return operator new(bytes);
+}
+
+/// How many locks are let go before a thread stops while it holds one.
+int locksLeft = 0;
+
+HANDLE lockIsHeld() {
+  static HANDLE const event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+  return event;
+}
+
+int stopAtUnlock(pthread_mutex_t* mutex) {
+  if (locksLeft-- == 0) {
+    SetEvent(lockIsHeld());
+    Sleep(INFINITE);
+  }
+  return pthread_mutex_unlock(mutex);
+}
+
+/// Windows ends all other threads, wherever they are, before a library hears of the end.
+[[noreturn]] void endWhileAThreadHoldsALock(const LoadedLibrary& library, UINT status) {
+  library.replaceImport("pthread_mutex_unlock", reinterpret_cast<void*>(&stopAtUnlock));
+  std::thread([&] { callEverything(library); }).detach();
+  WaitForSingleObject(lockIsHeld(), INFINITE);
+  ExitProcess(status);
 }
 
 }  // namespace
@@ -118,5 +143,13 @@ TEST(Loading, BuildsTheTablesOnceThoughManyThreadsCallFirst) {
     for (std::thread& caller : callers) {
       caller.join();
     }
+  }
+}
+
+TEST(EndOfTheProcess, DoesNotWaitForALockOfAThreadThatIsGone) {
+  constexpr int status = 7;
+  for (locksLeft = 0; locksLeft < 4; ++locksLeft) {
+    EXPECT_EXIT(endWhileAThreadHoldsALock(LoadedLibrary(), status), testing::ExitedWithCode(status),
+                "");
   }
 }
