@@ -24,12 +24,19 @@ struct StackBounds {
 
 #if defined(_WIN32)
 
-// Windows switches these bounds together with the fibre.
+// What the host has set apart for handling an overflow, as runtimes of other languages do. Asked
+// for no bytes, the function leaves it as it is.
+std::uintptr_t setApart() {
+  ULONG bytes = 0;
+  return SetThreadStackGuarantee(&bytes) != 0 ? bytes : 0;
+}
+
+// Windows switches all of this together with the fibre.
 StackBounds currentBounds(std::uintptr_t /*position*/) {
   ULONG_PTR end = 0;
   ULONG_PTR top = 0;
   GetCurrentThreadStackLimits(&end, &top);
-  return {end, top};
+  return {end + setApart(), top};
 }
 
 #else
