@@ -20,6 +20,10 @@ from collections import defaultdict
 HERE = pathlib.Path(__file__).parent
 FIGURES = HERE / 'figures.json'
 LIMIT = 1.05
+# What bare does not do at all: it lets every filter pass, where we throw; and it gets its text as UTF-8, where we
+# convert all of it even if the first token is an error.
+FURTHER_LIMITS = {'filters refused: usages': 1.17, 'queries with an error: columns': 1.10}
+SHAPE_SIZES = ('1', '64')
 GROWTH = 1.02
 
 
@@ -57,10 +61,23 @@ def figures_of(groups):
                     'worst': round(max(c['ratio'] for c in calls), 4)} for group, calls in groups.items()}
 
 
+def texts_of(script):
+    run = subprocess.run([HERE.parent / 'corpus' / script], check=True, capture_output=True, text=True, encoding='utf-8')
+    return [json.loads(line) for line in run.stdout.splitlines()]
+
+
+def shapes():
+    for record in texts_of('shapes.py'):
+        size = record['group'].rsplit(' ', 1)[1]
+        if size in SHAPE_SIZES:
+            yield {**record, 'group': f'shapes of size {size}'}
+
+
 def complaints(figures, committed):
     for group, figure in figures.items():
-        if figure['worst'] > LIMIT:
-            yield f'{group}: a text takes {figure["worst"]} of the bare pipeline, more than {LIMIT}'
+        limit = FURTHER_LIMITS.get(group, LIMIT)
+        if figure['worst'] > limit:
+            yield f'{group}: a text takes {figure["worst"]} of the bare pipeline, more than {limit}'
         if group in committed and figure['ratio'] > committed[group]['ratio'] * GROWTH:
             yield f'{group}: {figure["ratio"]} of the bare pipeline, committed are {committed[group]["ratio"]}'
 
@@ -73,10 +90,9 @@ def main():
     arguments = parser.parse_args()
     build = arguments.build.resolve()
 
-    text = subprocess.run([HERE.parent / 'corpus/corpus.py'], check=True, capture_output=True).stdout
+    records = [*texts_of('corpus.py'), *shapes()]
     texts = build / 'corpus.jsonl'
-    texts.write_bytes(text)
-    records = [json.loads(line) for line in text.decode().splitlines()]
+    texts.write_text(''.join(json.dumps(record) + '\n' for record in records), encoding='utf-8')
     groups = ratios_by_group(counts(build, texts), records, build.name)
     figures = figures_of(groups)
     for group, figure in figures.items():
