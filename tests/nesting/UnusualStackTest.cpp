@@ -112,7 +112,7 @@ Answer answerBelow(std::size_t usedBytes, const WideString& text) {
 TEST(StackThatIsNearlyUsedUp, GivesAnAnswerOrARefusal) {
   const WideString text = parentheses(12);
   std::vector<Answer> answers;
-  for (std::size_t left = 120; left >= 12; left -= 4) {
+  for (std::size_t left = 120; left >= VORN_LEAST_KIBIBYTES; left -= 4) {
     onStackOf(128 * kibibyte,
               [&] { answers.push_back(answerBelow((124 - left) * kibibyte, text)); });
   }
