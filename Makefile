@@ -154,6 +154,11 @@ announce-abi: setup $(BUILD)/build.ninja ## take the ABI of now for the announce
 	@cmake --build --preset release --target vorn_abi
 	@tools/check-abi.sh $(BUILD) --write
 
+package-deb: setup ## build Debian packages in build/packages, use them in a new system
+	@tools/install-packages.sh debian
+	@tools/package-deb.sh
+	@packaging/test_packages.py
+
 lint: setup $(BUILD)/build.ninja ## check the format and run clang-tidy
 	@tools/install-packages.sh lint
 	@test -n '$(OWN_CODE)' || { echo 'lint: git lists no sources.' >&2; exit 1; }

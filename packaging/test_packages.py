@@ -1,0 +1,111 @@
+#!/usr/bin/env python3
+"""The packages under build/packages hold what a user needs, built with all hardening.
+
+They are installed in a new Debian system, with the packages that they depend on and a compiler, and used
+inside of it. Making that system takes root or sudo.
+"""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+sys.path.insert(0, str(ROOT / "tests" / "packaging"))
+
+from minimal_host import TESTS, block  # noqa: E402
+
+PACKAGES = sorted(path for path in (ROOT / "build" / "packages").glob("*.deb") if "dbgsym" not in path.name)
+AS_ROOT = [] if os.geteuid() == 0 else ["sudo"]
+TOOLS = "bash-completion,cmake,g++,man-db,ninja-build,pkg-config"
+
+
+def run(*command: object) -> str:
+    result = subprocess.run(
+        [str(word) for word in command], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True
+    )
+    assert result.returncode == 0, f"{command}\n{result.stdout}"
+    return result.stdout
+
+
+def codename() -> str:
+    return run("sh", "-c", ". /etc/os-release; echo $VERSION_CODENAME").strip()
+
+
+class Packages(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls) -> None:
+        cls.folder = pathlib.Path(tempfile.mkdtemp())
+        cls.addClassCleanup(lambda: run(*AS_ROOT, "rm", "-rf", cls.folder))
+        cls.root = cls.folder / "root"
+        host = cls.folder / "host"
+        host.mkdir()
+        shutil.copy(TESTS / "find_package" / "CMakeLists.txt", host)
+        (host / "host.cpp").write_text(block("cpp", "// host.cpp"), encoding="utf-8")
+        upload = " ".join(f"'{path}'" for path in PACKAGES)
+        run(
+            *AS_ROOT, "mmdebstrap", "--variant=apt", f"--include={TOOLS}",
+            f"--customize-hook=mkdir \"$1/packages\"; cp {upload} \"$1/packages\"",
+            f"--customize-hook=cp -R '{host}' \"$1/host\"",
+            "--customize-hook=chroot \"$1\" sh -c 'apt-get install --yes /packages/*.deb'",
+            codename(), cls.root,
+        )  # fmt: skip
+
+    def inside(self, commands: str) -> str:
+        return run(*AS_ROOT, "chroot", self.root, "bash", "-ec", f"cd /host; export LC_ALL=C.UTF-8; {commands}")
+
+    def test_are_three(self) -> None:
+        names = [path.name.split("_")[0] for path in PACKAGES]
+        self.assertEqual(names, ["libvornlib-dev", "libvornlib1", "vorn-inspect"])
+
+    def test_let_a_host_be_built_by_cmake(self) -> None:
+        self.inside("cmake -G Ninja -DWANTED_VERSION=1 -B build . && cmake --build build")
+        self.assertEqual(self.inside("build/host"), block("text", "n: a node"))
+
+    def test_let_a_host_be_built_by_pkg_config(self) -> None:
+        self.inside("g++ -std=c++17 host.cpp $(pkg-config --cflags --libs VornLib) -o host")
+        self.assertEqual(self.inside("./host"), block("text", "n: a node"))
+
+    def test_have_vorn_inspect_with_its_manual(self) -> None:
+        self.assertIn("Node", self.inside("vorn-inspect columns 'MATCH (n) RETURN n'"))
+        # A system as small as this one has no manuals: dpkg leaves them out.
+        (package,) = [path for path in PACKAGES if path.name.startswith("vorn-inspect")]
+        run("dpkg-deb", "-x", package, self.folder / "unpacked")
+        manual = self.folder / "unpacked/usr/share/man/man1/vorn-inspect.1.gz"
+        shown = run("man", "--warnings", "-l", manual)
+        for option in ["--file", "--map", "--json", "--jsonl", "--help", "--version"]:
+            self.assertIn(option, shown)
+        self.assertNotIn("warning", shown)
+
+    def test_complete_the_commands_and_options_of_vorn_inspect(self) -> None:
+        complete = "/usr/share/bash-completion/completions/vorn-inspect"
+        for words, completed in [
+            ("us", "usages"),
+            ("columns --f", "--file"),
+            ("rename --m", "--map"),
+            ("columns --m", ""),
+        ]:
+            line = f"vorn-inspect {words}"
+            self.assertEqual(
+                self.inside(
+                    f". /usr/share/bash-completion/bash_completion; . {complete};"
+                    f" COMP_WORDS=({line}); COMP_CWORD={len(words.split())};"
+                    f" COMP_LINE='{line}'; COMP_POINT={len(line)}; _vorn_inspect || true; echo ${{COMPREPLY[*]}}"
+                ),
+                completed + "\n",
+            )
+
+    def test_are_hardened(self) -> None:
+        # Debian 12 does not build with control-flow protection.
+        common = ["hardening-check", "--nocfprotection"]
+        run(*common, self.root / "usr/bin/vorn-inspect")
+        (library,) = self.root.glob("usr/lib/*/libVornLib.so.1.*")
+        # All that fortifying knows of in the library copies to buffers whose size no compiler can tell.
+        run(*common, "--nopie", "--nofortify", library)
+
+
+if __name__ == "__main__":
+    unittest.main()

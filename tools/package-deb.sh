@@ -1,0 +1,38 @@
+#!/bin/sh
+# Builds the Debian packages into build/packages/, and fails unless lintian is content with them.
+#
+#   tools/package-deb.sh
+set -eu
+
+root=$(cd "$(dirname "$0")/.." && pwd)
+work=$root/build/package-deb
+packages=$root/build/packages
+version=$(sed -n 's/^#define VORN_VERSION_[A-Z]* //p' "$root/include/vorn/vorn.h" | paste -sd .)
+
+fail() {
+    echo "package-deb: $1" >&2
+    exit 1
+}
+
+command -v dpkg-buildpackage >/dev/null ||
+    fail "dpkg-buildpackage is missing; tools/install-packages.sh debian installs it."
+
+rm -rf "$work" "$packages"
+source=$work/vornlib-$version
+mkdir -p "$source/build" "$packages"
+for part in CMakeLists.txt THIRD-PARTY.md abi benchmark cmake examples grammar include platform src \
+    strings build/antlr4-runtime-4.10; do
+    cp -R "$root/$part" "$source/$part"
+done
+cp -R "$root/packaging/debian" "$source/"
+date=$(git -C "$root" log -1 --format=%cD)
+sed "s/@VERSION@/$version/; s/@DATE@/$date/" "$source/debian/changelog.in" >"$source/debian/changelog"
+rm "$source/debian/changelog.in"
+
+cd "$source"
+DEB_BUILD_OPTIONS="${DEB_BUILD_OPTIONS:-parallel=$(nproc)}" \
+    dpkg-buildpackage -b -us -uc >"$work/log" 2>&1 || fail "the build failed; see $work/log."
+
+cd "$work"
+lintian --fail-on error,warning ./*.changes || fail "lintian is not content."
+mv ./*.deb "$packages"
