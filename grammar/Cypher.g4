@@ -27,35 +27,35 @@ grammar Cypher;
 // use them; a host that unloads the library gets its memory back. Newer releases of the tool hold the
 // tables by a std::unique_ptr.
 @lexer::definitions {
-namespace vorn {
-void buildLexerTables() {
-  if (cypherlexerLexerStaticData == nullptr) {
-    cypherlexerLexerInitialize();
+  namespace vorn {
+  void buildLexerTables() {
+    if (cypherlexerLexerStaticData == nullptr) {
+      cypherlexerLexerInitialize();
+    }
+    std::call_once(cypherlexerLexerOnceFlag, [] {});
   }
-  std::call_once(cypherlexerLexerOnceFlag, [] {});
-}
 
-void releaseLexerTables() {
-  const std::unique_ptr<CypherLexerStaticData> tables(
-      std::exchange(cypherlexerLexerStaticData, nullptr));
-}
-}
+  void releaseLexerTables() {
+    const std::unique_ptr<CypherLexerStaticData> tables(
+        std::exchange(cypherlexerLexerStaticData, nullptr));
+  }
+  }
 }
 
 @parser::definitions {
-namespace vorn {
-void buildParserTables() {
-  if (cypherParserStaticData == nullptr) {
-    cypherParserInitialize();
+  namespace vorn {
+  void buildParserTables() {
+    if (cypherParserStaticData == nullptr) {
+      cypherParserInitialize();
+    }
+    std::call_once(cypherParserOnceFlag, [] {});
   }
-  std::call_once(cypherParserOnceFlag, [] {});
-}
 
-void releaseParserTables() {
-  const std::unique_ptr<CypherParserStaticData> tables(
-      std::exchange(cypherParserStaticData, nullptr));
-}
-}
+  void releaseParserTables() {
+    const std::unique_ptr<CypherParserStaticData> tables(
+        std::exchange(cypherParserStaticData, nullptr));
+  }
+  }
 }
 
 // Hides the runtime's tracker of the same name from the generated rules, so that the nodes of a tree

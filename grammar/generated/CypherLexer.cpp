@@ -754,19 +754,19 @@ const atn::ATN& CypherLexer::getATN() const {
 }
 
 
-namespace vorn {
-void buildLexerTables() {
-  if (cypherlexerLexerStaticData == nullptr) {
-    cypherlexerLexerInitialize();
+  namespace vorn {
+  void buildLexerTables() {
+    if (cypherlexerLexerStaticData == nullptr) {
+      cypherlexerLexerInitialize();
+    }
+    std::call_once(cypherlexerLexerOnceFlag, [] {});
   }
-  std::call_once(cypherlexerLexerOnceFlag, [] {});
-}
 
-void releaseLexerTables() {
-  const std::unique_ptr<CypherLexerStaticData> tables(
-      std::exchange(cypherlexerLexerStaticData, nullptr));
-}
-}
+  void releaseLexerTables() {
+    const std::unique_ptr<CypherLexerStaticData> tables(
+        std::exchange(cypherlexerLexerStaticData, nullptr));
+  }
+  }
 
 
 

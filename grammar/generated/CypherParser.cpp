@@ -778,19 +778,19 @@ antlr4::atn::SerializedATNView CypherParser::getSerializedATN() const {
 }
 
 
-namespace vorn {
-void buildParserTables() {
-  if (cypherParserStaticData == nullptr) {
-    cypherParserInitialize();
+  namespace vorn {
+  void buildParserTables() {
+    if (cypherParserStaticData == nullptr) {
+      cypherParserInitialize();
+    }
+    std::call_once(cypherParserOnceFlag, [] {});
   }
-  std::call_once(cypherParserOnceFlag, [] {});
-}
 
-void releaseParserTables() {
-  const std::unique_ptr<CypherParserStaticData> tables(
-      std::exchange(cypherParserStaticData, nullptr));
-}
-}
+  void releaseParserTables() {
+    const std::unique_ptr<CypherParserStaticData> tables(
+        std::exchange(cypherParserStaticData, nullptr));
+  }
+  }
 
 
 //----------------- OC_CypherContext ------------------------------------------------------------------
