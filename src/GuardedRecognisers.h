@@ -1,7 +1,12 @@
 #pragma once
 
-#include <memory>
+#include <TokenStream.h>
+#include <tree/TerminalNodeImpl.h>
 
+#include <memory>
+#include <memory_resource>
+
+#include "ArenaTokenFactory.h"
 #include "CypherLexer.h"
 #include "CypherParser.h"
 #include "NestingGuard.h"
@@ -11,8 +16,12 @@ namespace vorn {
 /// A lexer that shows the guard every token.
 class GuardedLexer final : public CypherLexer {
  public:
-  GuardedLexer(antlr4::CharStream* input, NestingGuard& itsGuard)
-      : CypherLexer(input), guard(itsGuard) {}
+  /// The tokens lie in the given memory.
+  GuardedLexer(antlr4::CharStream* input, NestingGuard& itsGuard,
+               std::pmr::memory_resource& tokenMemory)
+      : CypherLexer(input), guard(itsGuard), tokens(tokenMemory) {
+    setTokenFactory(&tokens);
+  }
 
   std::unique_ptr<antlr4::Token> nextToken() override {
     std::unique_ptr<antlr4::Token> next = CypherLexer::nextToken();
@@ -22,15 +31,17 @@ class GuardedLexer final : public CypherLexer {
 
  private:
   NestingGuard& guard;
+  ArenaTokenFactory tokens;
 };
 
 /// A parser that asks the guard before it enters a rule. A parse listener could do that too, but
 /// would make a call a tenth slower.
 class GuardedParser final : public CypherParser {
  public:
+  /// The nodes of the tree lie in the given memory.
   GuardedParser(antlr4::TokenStream* input, NestingGuard& itsGuard,
-                std::pmr::memory_resource& nodeMemory)
-      : CypherParser(input), guard(itsGuard) {
+                std::pmr::memory_resource& itsNodeMemory)
+      : CypherParser(input), guard(itsGuard), nodeMemory(itsNodeMemory) {
     _tracker.takeNodesFrom(nodeMemory);
     guard.watch(*this);
   }
@@ -40,8 +51,22 @@ class GuardedParser final : public CypherParser {
     CypherParser::enterRule(context, state, rule);
   }
 
+  // Does what the runtime does as long as nothing is wrong, and the first error is fatal. A
+  // terminal node owns nothing, so nobody has to destroy it.
+  antlr4::Token* consume() override {
+    using Terminal = antlr4::tree::TerminalNodeImpl;
+    antlr4::Token* const consumed = getCurrentToken();
+    if (consumed->getType() != EOF) {
+      getTokenStream()->consume();
+    }
+    _ctx->addChild(new (nodeMemory.allocate(sizeof(Terminal), alignof(Terminal)))
+                       Terminal(consumed));
+    return consumed;
+  }
+
  private:
   NestingGuard& guard;
+  std::pmr::memory_resource& nodeMemory;
 };
 
 }  // namespace vorn

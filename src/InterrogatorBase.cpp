@@ -27,17 +27,17 @@ void makeErrorsFatal(antlr4::Recognizer& recognizer) {
 
 }  // namespace
 
-// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the first nodes are raw memory.
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the first memory is raw.
 InterrogatorBase::InterrogatorBase(const WideString& text)
     : utf8Text(StringUtf8ImplDetail::StringWideCharToUtf8Impl(text)),
       inputStream(std::make_unique<antlr4::ANTLRInputStream>(std::string_view(utf8Text))) {
   buildRecogniserTables();
-  lexer = std::make_unique<GuardedLexer>(inputStream.get(), guard);
+  lexer = std::make_unique<GuardedLexer>(inputStream.get(), guard, treeMemory);
   makeErrorsFatal(*lexer);
   lexer->setInterpreter(
       new FailSafeLexerSimulator(*lexer, *lexer->getInterpreter<antlr4::atn::LexerATNSimulator>()));
   tokenStream = std::make_unique<antlr4::CommonTokenStream>(lexer.get());
-  parser = std::make_unique<GuardedParser>(tokenStream.get(), guard, nodeMemory);
+  parser = std::make_unique<GuardedParser>(tokenStream.get(), guard, treeMemory);
   makeErrorsFatal(*parser);
   parser->setInterpreter(
       new FailSafeParserSimulator(*parser, PredictionTables::current(parser->getATN())));

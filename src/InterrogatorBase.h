@@ -41,10 +41,10 @@ class InterrogatorBase {
             std::initializer_list<std::size_t> rules) const;
 
   NestingGuard guard;  // the first, so that nothing is done on a stack that has no room left
-  // Hold the nodes of the parse tree, which are released together. Those of a short text need no
-  // block from the heap.
-  std::array<std::byte, 8 * std::size_t{1024}> firstNodes;
-  std::pmr::monotonic_buffer_resource nodeMemory{firstNodes.data(), firstNodes.size()};
+  // Hold the tokens and the nodes of the parse tree, which are released together. Those of a short
+  // text need no block from the heap.
+  std::array<std::byte, 8 * std::size_t{1024}> firstMemory;
+  std::pmr::monotonic_buffer_resource treeMemory{firstMemory.data(), firstMemory.size()};
 
   // Each refers to the one before it, so the order of construction and destruction matters.
   std::string utf8Text;

@@ -2,8 +2,9 @@
 
 namespace vorn {
 
-/// Builds the tables of the generated lexer and parser, and sees to it that they go with the library
-/// when a host unloads it. Only the first call does anything, and one after a call that failed.
+/// Builds the tables of the generated lexer and parser, and sees to it that they go with the
+/// library when a host unloads it. Only the first call does anything, and one after a call that
+/// failed.
 void buildRecogniserTables();
 
 }  // namespace vorn

@@ -64,10 +64,10 @@ TEST(GuardedParser, AsksTheGuardAtEachRule) {
   onStackOf(mebibyte, [] {
     vorn::NestingGuard guard;
     antlr4::ANTLRInputStream input("a");
-    vorn::GuardedLexer lexer(&input, guard);
+    std::pmr::monotonic_buffer_resource memory;
+    vorn::GuardedLexer lexer(&input, guard, memory);
     antlr4::CommonTokenStream tokens(&lexer);
-    std::pmr::monotonic_buffer_resource nodes;
-    vorn::GuardedParser parser(&tokens, guard, nodes);
+    vorn::GuardedParser parser(&tokens, guard, memory);
     below(440 * kibibyte, [&] { EXPECT_THROW(parser.oC_Expression(), std::length_error); });
   });
 }
