@@ -18,8 +18,8 @@
 
 namespace {
 
-// In a few places the runtime loses what it holds by a plain pointer: the state that it is about to
-// enter in the lexer's tables, a node of the tree.
+// In a few places the runtime loses what it holds by a plain pointer, such as the state that it is
+// about to enter in the lexer's tables.
 constexpr std::ptrdiff_t mostLost = 3;
 constexpr std::size_t oneInThisManyFailuresMayLose = 12;
 
