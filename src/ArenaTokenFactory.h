@@ -1,6 +1,5 @@
 #pragma once
 
-#include <CommonToken.h>
 #include <TokenFactory.h>
 
 #include <cstddef>
@@ -8,6 +7,10 @@
 #include <memory_resource>
 #include <string>
 #include <utility>
+
+namespace antlr4 {
+class CommonToken;
+}  // namespace antlr4
 
 namespace vorn {
 
@@ -20,33 +23,11 @@ class ArenaTokenFactory final : public antlr4::TokenFactory<antlr4::CommonToken>
   std::unique_ptr<antlr4::CommonToken> create(
       std::pair<antlr4::TokenSource*, antlr4::CharStream*> source, std::size_t type,
       const std::string& text, std::size_t channel, std::size_t start, std::size_t stop,
-      std::size_t line, std::size_t charPositionInLine) override {
-    std::unique_ptr<antlr4::CommonToken> token(new (memory)
-                                                   ArenaToken(source, type, channel, start, stop));
-    token->setLine(line);
-    token->setCharPositionInLine(charPositionInLine);
-    if (!text.empty()) {
-      token->setText(text);
-    }
-    return token;
-  }
+      std::size_t line, std::size_t charPositionInLine) override;
 
-  std::unique_ptr<antlr4::CommonToken> create(std::size_t type, const std::string& text) override {
-    return std::unique_ptr<antlr4::CommonToken>(new (memory) ArenaToken(type, text));
-  }
+  std::unique_ptr<antlr4::CommonToken> create(std::size_t type, const std::string& text) override;
 
  private:
-  class ArenaToken final : public antlr4::CommonToken {
-   public:
-    using CommonToken::CommonToken;
-
-    static void* operator new(std::size_t size, std::pmr::memory_resource& source) {
-      return source.allocate(size);
-    }
-    static void operator delete(void* /*token*/) noexcept {}
-    static void operator delete(void* /*token*/, std::pmr::memory_resource& /*source*/) noexcept {}
-  };
-
   std::pmr::memory_resource& memory;
 };
 
