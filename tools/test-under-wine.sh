@@ -23,5 +23,8 @@ trap 'exit 1' HUP INT TERM
 mkfifo "$work/input"
 "$run" cmd.exe <"$work/input" >"$work/log" 2>&1 &
 exec 3>"$work/input"
+# The services keep the output of the program that started them open. Were that a test, CTest would wait
+# for its end for ever; so here they are up when the first test begins.
+"$run" cmd.exe /c exit </dev/null >"$work/started" 2>&1
 
 ctest --preset windows "$@"
