@@ -6,30 +6,15 @@
 
 #include <csignal>
 #include <cstring>
-#include <stdexcept>
 #include <vector>
 
+#include "Answer.h"
 #include "Shapes.h"
 #include "StackedThread.h"
-#include "support/Text.h"
-#include "vorn/vorn.h"
 
 namespace {
 
 using vorn::WideString;
-
-enum class Answer { None, Right, Wrong, TooDeep };
-
-Answer answerFor(const WideString& text) {
-  try {
-    return vorn::ReplaceVariableNamesInPropertyFilterOCExpression(text, {}) == text ? Answer::Right
-                                                                                    : Answer::Wrong;
-  } catch (const std::length_error&) {
-    return Answer::TooDeep;
-  }
-}
-
-WideString parentheses(std::size_t levels) { return Shape{"", "(", ")", "a"}.nested(levels); }
 
 // makecontext passes its function numbers only.
 WideString contextText;              // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)

@@ -5,27 +5,13 @@
 #include <windows.h>
 
 #include <functional>
-#include <stdexcept>
 
+#include "nesting/Answer.h"
 #include "nesting/Shapes.h"
 #include "nesting/StackedThread.h"
 #include "platform/StackBounds.h"
-#include "vorn/vorn.h"
 
 namespace {
-
-enum class Answer { None, Right, Wrong, TooDeep };
-
-Answer answerFor(const vorn::WideString& text) {
-  try {
-    return vorn::ReplaceVariableNamesInPropertyFilterOCExpression(text, {}) == text ? Answer::Right
-                                                                                    : Answer::Wrong;
-  } catch (const std::length_error&) {
-    return Answer::TooDeep;
-  }
-}
-
-vorn::WideString parentheses(std::size_t levels) { return Shape{"", "(", ")", "a"}.nested(levels); }
 
 /// Of the calling thread's or fibre's stack, down to the lowest address that it may grow to.
 std::size_t bytesLeft() {
