@@ -4,11 +4,11 @@
 //
 // loading the subject, its first call, its second one, all texts for the first time and once more.
 
-#include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
 
+#include "RunProgram.h"
 #include "corpus/Corpus.h"
 #include "subjects/CallTime.h"
 #include "subjects/Subject.h"
@@ -44,11 +44,5 @@ void run(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  try {
-    run({argv + 1, argv + argc});
-    return 0;
-  } catch (const std::exception& error) {
-    std::cerr << "vorn-first-call: " << error.what() << '\n';
-    return 1;
-  }
+  return runProgram("vorn-first-call", [&] { run({argv + 1, argv + argc}); });
 }

@@ -3,12 +3,12 @@
 //   vorn-growth TEXTS SUBJECT...
 
 #include <algorithm>
-#include <exception>
 #include <iomanip>
 #include <iostream>
 #include <string>
 #include <vector>
 
+#include "RunProgram.h"
 #include "corpus/Corpus.h"
 #include "subjects/CallTime.h"
 #include "subjects/Subject.h"
@@ -62,11 +62,5 @@ void run(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  try {
-    run({argv + 1, argv + argc});
-    return 0;
-  } catch (const std::exception& error) {
-    std::cerr << "vorn-growth: " << error.what() << '\n';
-    return 1;
-  }
+  return runProgram("vorn-growth", [&] { run({argv + 1, argv + argc}); });
 }

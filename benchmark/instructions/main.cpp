@@ -5,10 +5,9 @@
 
 #include <valgrind/callgrind.h>
 
-#include <exception>
-#include <iostream>
 #include <string>
 
+#include "RunProgram.h"
 #include "corpus/Corpus.h"
 #include "subjects/Subject.h"
 
@@ -53,11 +52,5 @@ void run(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  try {
-    run({argv + 1, argv + argc});
-    return 0;
-  } catch (const std::exception& error) {
-    std::cerr << "vorn-count-instructions: " << error.what() << '\n';
-    return 1;
-  }
+  return runProgram("vorn-count-instructions", [&] { run({argv + 1, argv + argc}); });
 }

@@ -3,7 +3,6 @@
 //   vorn-memory calls TEXTS SUBJECT...   what each warm call allocates, and its peak
 //   vorn-memory caches SUBJECT < TEXTS   what is left behind after 1, 2, 4 ... different texts
 
-#include <exception>
 #include <iomanip>
 #include <iostream>
 #include <sstream>
@@ -12,6 +11,7 @@
 #include <vector>
 
 #include "CountingHeap.h"
+#include "RunProgram.h"
 #include "corpus/Corpus.h"
 #include "subjects/Subject.h"
 
@@ -77,11 +77,5 @@ void run(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  try {
-    run({argv + 1, argv + argc});
-    return 0;
-  } catch (const std::exception& error) {
-    std::cerr << "vorn-memory: " << error.what() << '\n';
-    return 1;
-  }
+  return runProgram("vorn-memory", [&] { run({argv + 1, argv + argc}); });
 }

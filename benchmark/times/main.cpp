@@ -8,13 +8,12 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <exception>
-#include <iostream>
 #include <limits>
 #include <map>
 #include <string>
 #include <vector>
 
+#include "RunProgram.h"
 #include "corpus/Corpus.h"
 #include "subjects/BarePipeline.h"
 #include "subjects/CallTime.h"
@@ -153,12 +152,8 @@ void run(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  try {
+  return runProgram("vorn-bench", [&] {
     benchmark::Initialize(&argc, argv);
     run({argv + 1, argv + argc});
-    return 0;
-  } catch (const std::exception& error) {
-    std::cerr << "vorn-bench: " << error.what() << '\n';
-    return 1;
-  }
+  });
 }

@@ -9,6 +9,7 @@
 #include <exception>
 #include <iostream>
 
+#include "RunProgram.h"
 #include "corpus/Corpus.h"
 
 namespace {
@@ -31,16 +32,12 @@ void run(const Text& text) {
 }  // namespace
 
 int main() {
-  try {
+  return runProgram("vorn-train", [] {
     const std::vector<Text> texts = readTexts(std::cin);
     for (int round = 0; round < rounds; ++round) {
       for (const Text& text : texts) {
         run(text);
       }
     }
-    return 0;
-  } catch (const std::exception& error) {
-    std::cerr << "vorn-train: " << error.what() << '\n';
-    return 1;
-  }
+  });
 }
