@@ -36,34 +36,29 @@ bool isProcessEnding() {
   return query == nullptr || query() != FALSE;
 }
 
-struct End {
-  End() = default;
-  End(const End&) = delete;
-  End& operator=(const End&) = delete;
-  End(End&&) = delete;
-  End& operator=(End&&) = delete;
-  ~End() {
-    processEnds = isProcessEnding();
-    unload();
-  }
-};
+void staticObjectsGo() {
+  processEnds = isProcessEnding();
+  unload();
+}
 
 #else
 
 // At the end of the process destructors of static objects run before the functions that are marked
 // as destructors, and after them when the library is unloaded.
+void staticObjectsGo() { processEnds = true; }
+
+[[gnu::destructor]] void unloadFromProcessThatGoesOn() { unload(); }
+
+#endif
+
 struct End {
   End() = default;
   End(const End&) = delete;
   End& operator=(const End&) = delete;
   End(End&&) = delete;
   End& operator=(End&&) = delete;
-  ~End() { processEnds = true; }
+  ~End() { staticObjectsGo(); }
 };
-
-[[gnu::destructor]] void unloadFromProcessThatGoesOn() { unload(); }
-
-#endif
 
 }  // namespace
 
