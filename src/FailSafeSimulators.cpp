@@ -1,5 +1,6 @@
 #include "FailSafeSimulators.h"
 
+#include <CharStream.h>
 #include <NoViableAltException.h>
 #include <Parser.h>
 #include <ParserRuleContext.h>
@@ -27,6 +28,39 @@ FailSafeParserSimulator::FailSafeParserSimulator(antlr4::Parser& ofParser,
                                                  std::shared_ptr<PredictionTables> someTables)
     : ParserATNSimulator(&ofParser, ofParser.getATN(), someTables->decisions, someTables->contexts),
       tables(std::move(someTables)) {}
+
+size_t FailSafeParserSimulator::adaptivePredict(antlr4::TokenStream* input, size_t decision,
+                                                antlr4::ParserRuleContext* outerContext) {
+  const size_t startIndex = input->index();
+  const size_t known = knownAlternative(input, decision);
+  if (input->index() != startIndex) {
+    input->seek(startIndex);
+  }
+  return known != ATN::INVALID_ALT_NUMBER
+             ? known
+             : ParserATNSimulator::adaptivePredict(input, decision, outerContext);
+}
+
+// The alternative that a path through known states leads to, if it does so without the full
+// context.
+size_t FailSafeParserSimulator::knownAlternative(antlr4::TokenStream* input,
+                                                 size_t decision) const {
+  const DfaIndex::State* state = tables->index.start(decision);
+  while (state != nullptr) {
+    const size_t symbol = input->LA(1);
+    state = tables->index.next(*state, symbol);
+    if (state == nullptr || &state->runtimeState == ERROR.get() || state->requiresFullContext) {
+      break;
+    }
+    if (state->isAcceptState) {
+      return state->prediction;
+    }
+    if (symbol != antlr4::Token::EOF) {
+      input->consume();
+    }
+  }
+  return ATN::INVALID_ALT_NUMBER;
+}
 
 // The runtime enters the state first and then does what may fail, while the caller still owns it.
 DFAState* FailSafeParserSimulator::addDFAState(DFA& dfa, DFAState* state) {
@@ -71,20 +105,23 @@ DFAState* FailSafeParserSimulator::computeTargetState(DFA& dfa, DFAState* previo
   return addDFAEdge(dfa, previous, static_cast<ssize_t>(symbol), entered);
 }
 
-// As in the runtime, but without its copies of the configurations by predicates, of which the
-// grammar has none.
+// As in the runtime, but along the index, and without its copies of the configurations by
+// predicates, of which the grammar has none.
 size_t FailSafeParserSimulator::execATN(DFA& dfa, DFAState* start, antlr4::TokenStream* input,
                                         size_t startIndex,
                                         antlr4::ParserRuleContext* outerContext) {
-  DFAState* previous = start;
+  DfaIndex::State* previous = &tables->index.setStart(dfa.decision, *start);
   size_t symbol = input->LA(1);
   while (true) {
-    DFAState* target = getExistingTargetState(previous, symbol);
-    if (target == nullptr) {
-      target = computeTargetState(dfa, previous, symbol);
+    DfaIndex::State* next = tables->index.next(*previous, symbol);
+    if (next == nullptr) {
+      next = &tables->index.connect(*previous, symbol,
+                                    *computeTargetState(dfa, &previous->runtimeState, symbol));
     }
+    DFAState* const target = &next->runtimeState;
     if (target == ERROR.get()) {
-      return finishedAlternative(previous->configs.get(), input, startIndex, outerContext);
+      return finishedAlternative(previous->runtimeState.configs.get(), input, startIndex,
+                                 outerContext);
     }
     if (target->requiresFullContext) {
       const std::unique_ptr<ATNConfigSet> fullStart =
@@ -96,7 +133,7 @@ size_t FailSafeParserSimulator::execATN(DFA& dfa, DFAState* start, antlr4::Token
     if (target->isAcceptState) {
       return target->prediction;
     }
-    previous = target;
+    previous = next;
     if (symbol != antlr4::Token::EOF) {
       input->consume();
       symbol = input->LA(1);
@@ -153,8 +190,53 @@ size_t FailSafeParserSimulator::execATNWithFullContext(DFA& dfa, DFAState* state
 }
 
 FailSafeLexerSimulator::FailSafeLexerSimulator(antlr4::Lexer& ofLexer,
-                                               const LexerATNSimulator& other)
-    : LexerATNSimulator(&ofLexer, other.atn, other._decisionToDFA, other.getSharedContextCache()) {}
+                                               const LexerATNSimulator& other, DfaIndex& itsIndex)
+    : LexerATNSimulator(&ofLexer, other.atn, other._decisionToDFA, other.getSharedContextCache()),
+      index(itsIndex) {}
+
+size_t FailSafeLexerSimulator::match(antlr4::CharStream* input, size_t mode) {
+  DfaIndex::State* const start = index.start(mode);
+  if (start == nullptr) {
+    return LexerATNSimulator::match(input, mode);
+  }
+  _mode = mode;
+  _startIndex = input->index();
+  _prevAccept.reset();
+  return matchFrom(*start, input);
+}
+
+size_t FailSafeLexerSimulator::execATN(antlr4::CharStream* input, DFAState* start) {
+  return matchFrom(index.setStart(_mode, *start), input);
+}
+
+// As in the runtime, but along the index, which knows what follows on the end of the input too. No
+// token of the grammar is empty.
+size_t FailSafeLexerSimulator::matchFrom(DfaIndex::State& start, antlr4::CharStream* input) {
+  DfaIndex::State* state = &start;
+  size_t symbol = input->LA(1);
+  while (true) {
+    DfaIndex::State* next = index.next(*state, symbol);
+    if (next == nullptr) {
+      next =
+          &index.connect(*state, symbol, *computeTargetState(input, &state->runtimeState, symbol));
+    }
+    if (&next->runtimeState == ERROR.get()) {
+      break;
+    }
+    if (symbol != antlr4::Token::EOF) {
+      consume(input);
+    }
+    if (next->isAcceptState) {
+      captureSimState(input, &next->runtimeState);
+      if (symbol == antlr4::Token::EOF) {
+        break;
+      }
+    }
+    symbol = input->LA(1);
+    state = next;
+  }
+  return failOrAccept(input, state->runtimeState.configs.get(), symbol);
+}
 
 // As in the runtime, but the set has an owner while it is filled.
 DFAState* FailSafeLexerSimulator::computeTargetState(antlr4::CharStream* input, DFAState* previous,

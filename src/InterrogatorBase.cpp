@@ -34,8 +34,8 @@ InterrogatorBase::InterrogatorBase(const WideString& text)
   buildRecogniserTables();
   lexer = std::make_unique<GuardedLexer>(inputStream.get(), guard, treeMemory);
   makeErrorsFatal(*lexer);
-  lexer->setInterpreter(
-      new FailSafeLexerSimulator(*lexer, *lexer->getInterpreter<antlr4::atn::LexerATNSimulator>()));
+  lexer->setInterpreter(new FailSafeLexerSimulator(
+      *lexer, *lexer->getInterpreter<antlr4::atn::LexerATNSimulator>(), lexerIndex()));
   tokenStream = std::make_unique<antlr4::CommonTokenStream>(lexer.get());
   parser = std::make_unique<GuardedParser>(tokenStream.get(), guard, treeMemory);
   makeErrorsFatal(*parser);

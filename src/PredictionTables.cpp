@@ -21,6 +21,9 @@ namespace {
 // A configuration takes about 170 bytes, all that belongs to it included: this is some 64 MiB.
 constexpr std::size_t maxConfigurations = 400'000;
 
+// The edges of a state take as much in the index as so many configurations.
+constexpr std::size_t configurationsOfEdges = 7;
+
 // Is never destroyed: at the end of the process other threads may still make calls, and Windows has
 // ended them by then wherever they were, maybe holding the mutex.
 struct Shared {
@@ -78,7 +81,8 @@ std::vector<Context> contextsOf(const std::vector<antlr4::dfa::DFA>& decisions) 
 
 }  // namespace
 
-PredictionTables::PredictionTables(const antlr4::atn::ATN& atn) {
+PredictionTables::PredictionTables(const antlr4::atn::ATN& atn)
+    : index(atn.getNumberOfDecisions()) {
   const std::size_t count = atn.getNumberOfDecisions();
   decisions.reserve(count);
   for (std::size_t i = 0; i < count; ++i) {
@@ -106,11 +110,15 @@ std::shared_ptr<PredictionTables> PredictionTables::current(const antlr4::atn::A
   Shared& shared = Shared::instance();
   std::shared_ptr<PredictionTables> outgrown;  // goes after the lock
   const std::lock_guard<std::mutex> lock(shared.mutex);
-  if (shared.tables == nullptr || shared.tables->configurations > maxConfigurations) {
+  if (shared.tables == nullptr || shared.tables->isOutgrown()) {
     auto fresh = std::make_shared<PredictionTables>(atn);
     outgrown = std::exchange(shared.tables, std::move(fresh));
   }
   return shared.tables;
+}
+
+bool PredictionTables::isOutgrown() const {
+  return configurations + index.statesWithEdges() * configurationsOfEdges > maxConfigurations;
 }
 
 void PredictionTables::release() {

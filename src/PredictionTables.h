@@ -9,6 +9,8 @@
 #include <memory>
 #include <vector>
 
+#include "DfaIndex.h"
+
 namespace antlr4::atn {
 class ATN;
 }  // namespace antlr4::atn
@@ -47,10 +49,13 @@ class PredictionTables {
     ~HeldContexts();
   };
 
+  [[nodiscard]] bool isOutgrown() const;
+
   HeldContexts held;  // outlives what refers to the contexts
 
  public:
   std::vector<antlr4::dfa::DFA> decisions;
+  DfaIndex index;  // of the decisions
   antlr4::atn::PredictionContextCache contexts;
   std::atomic<std::size_t> configurations{0};
 };
