@@ -2,11 +2,18 @@
 
 #include <Exceptions.h>
 
+#include <array>
+#include <cstddef>
+#include <new>
 #include <string>
 
+// Is never destroyed: at the end of the process other threads, and what the host does last, may
+// still make calls. Half destroyed it would take every text for an error-free one.
 ThrowingErrorListener& ThrowingErrorListener::instance() {
-  static ThrowingErrorListener listener;
-  return listener;
+  using Listener = ThrowingErrorListener;
+  alignas(Listener) static std::array<std::byte, sizeof(Listener)> storage;
+  static auto* const listener = ::new (storage.data()) Listener;
+  return *listener;
 }
 
 void ThrowingErrorListener::syntaxError(antlr4::Recognizer* /*recognizer*/,

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <cstdlib>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,14 +12,15 @@
 
 namespace {
 
-std::vector<std::string> answersOfALoadedLibrary() {
-  const LoadedLibrary library;
+std::vector<std::string> answersOf(const LoadedLibrary& library) {
   std::vector<std::string> all;
   for (const Question& question : questions()) {
     all.push_back(answer(library.calls(), question));
   }
   return all;
 }
+
+std::vector<std::string> answersOfALoadedLibrary() { return answersOf(LoadedLibrary()); }
 
 TEST(LoadingAndUnloading, TakesTheLibraryOutOfTheProcess) {
   answersOfALoadedLibrary();
@@ -47,6 +49,20 @@ TEST(LoadingAndUnloading, AfterADeepTextTakesLittleStack) {
   EXPECT_EQ(status, 0);
   onStackOf(64 * kibibyte, [&] { library.reset(); });
   EXPECT_FALSE(LoadedLibrary::isPresent());
+}
+
+// What a host does last comes after the destructors of a library that it has loaded in between.
+TEST(EndOfTheProcess, LeavesACallThatTheHostMakesThenAnsweredAsAlways) {
+  static const std::vector<std::string> expected = answersOfALoadedLibrary();
+  EXPECT_EXIT(
+      {
+        static std::unique_ptr<LoadedLibrary> library;
+        std::atexit([] { std::_Exit(answersOf(*library) == expected ? 0 : 1); });
+        library = std::make_unique<LoadedLibrary>();
+        answersOf(*library);
+        std::exit(0);
+      },
+      testing::ExitedWithCode(0), "");
 }
 
 }  // namespace
