@@ -60,7 +60,7 @@ TEST(LookingAhead, DoesNotTakeANameEndForTheEndOfACase) {
 }
 
 TEST(LookingAhead, FromDeepInsideATextCountsBothDepths) {
-  constexpr std::size_t fitting = 240;  // alone
+  constexpr std::size_t fitting = 200;  // alone
   const WideString text = wide(repeated("(", fitting) + "[x IN " + repeated("[", fitting) + "a" +
                                repeated("]", fitting) + "]" + repeated(")", fitting));
   onStackOf(mebibyte, [&] {
