@@ -3,7 +3,6 @@
 #
 #   tools/check-abi.sh BUILD_FOLDER            fail if they differ from abi/ARCHITECTURE.abi
 #   tools/check-abi.sh BUILD_FOLDER --write    announce them
-#
 set -eu
 
 fail() {
