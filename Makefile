@@ -8,6 +8,7 @@ OWN_CODE = $(shell git ls-files --cached --others --exclude-standard '*.h' '*.cp
 
 SECONDS := 60
 BENCH := build/bench
+FUZZ := build/fuzz
 MILLIONS := 2
 
 help: ## list these targets
@@ -85,11 +86,13 @@ arm64: ## cross-build library, programs and tests for Linux on 64-bit ARM
 arm64-test: arm64 ## run the tests for 64-bit ARM in an emulator
 	@ctest --preset arm64
 
-fuzz: setup ## run each fuzzer for SECONDS=60
+$(FUZZ)/build.ninja: | setup
 	@tools/install-packages.sh fuzz
 	@cmake --preset fuzz >/dev/null
+
+fuzz: setup $(FUZZ)/build.ninja ## run each fuzzer for SECONDS=60
 	@cmake --build --preset fuzz --target vorn_fuzzers
-	@tools/fuzz.sh build/fuzz $(SECONDS)
+	@tools/fuzz.sh $(FUZZ) $(SECONDS)
 
 package-windows: windows ## make a zip of library, headers and vorn-inspect for Windows
 	@tools/package-windows.sh
@@ -159,11 +162,11 @@ package-deb: setup ## build Debian packages in build/packages, use them in a new
 	@tools/package-deb.sh
 	@packaging/test_packages.py
 
-lint: setup $(BUILD)/build.ninja ## check the format and run clang-tidy
+lint: setup $(BUILD)/build.ninja $(BENCH)/build.ninja $(FUZZ)/build.ninja ## check the format and run clang-tidy
 	@tools/install-packages.sh lint
 	@test -n '$(OWN_CODE)' || { echo 'lint: git lists no sources.' >&2; exit 1; }
 	@clang-format --dry-run --Werror $(OWN_CODE)
-	@tools/run-clang-tidy.sh $(BUILD) $(filter %.cpp,$(OWN_CODE))
+	@tools/run-clang-tidy.sh '$(BUILD) $(BENCH) $(FUZZ)' $(filter %.cpp,$(OWN_CODE))
 
 format: ## bring the sources into format
 	@tools/install-packages.sh lint
