@@ -25,14 +25,14 @@ grammar Cypher;
 // an exception has left it. So they are built before, and the flag is raised when they are there.
 // Nor does it ever free them. At the end of the process that is right, since other threads may still
 // use them; a host that unloads the library gets its memory back. Newer releases of the tool hold the
-// tables by a std::unique_ptr.
+// tables by a std::unique_ptr, and have a flag and a call_once() of their own, found by its argument.
 @lexer::definitions {
   namespace vorn {
   void buildLexerTables() {
     if (cypherlexerLexerStaticData == nullptr) {
       cypherlexerLexerInitialize();
     }
-    std::call_once(cypherlexerLexerOnceFlag, [] {});
+    call_once(cypherlexerLexerOnceFlag, [] {});
   }
 
   void releaseLexerTables() {
@@ -48,7 +48,7 @@ grammar Cypher;
     if (cypherParserStaticData == nullptr) {
       cypherParserInitialize();
     }
-    std::call_once(cypherParserOnceFlag, [] {});
+    call_once(cypherParserOnceFlag, [] {});
   }
 
   void releaseParserTables() {

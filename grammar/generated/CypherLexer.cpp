@@ -759,7 +759,7 @@ const atn::ATN& CypherLexer::getATN() const {
     if (cypherlexerLexerStaticData == nullptr) {
       cypherlexerLexerInitialize();
     }
-    std::call_once(cypherlexerLexerOnceFlag, [] {});
+    call_once(cypherlexerLexerOnceFlag, [] {});
   }
 
   void releaseLexerTables() {

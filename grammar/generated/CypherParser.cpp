@@ -783,7 +783,7 @@ antlr4::atn::SerializedATNView CypherParser::getSerializedATN() const {
     if (cypherParserStaticData == nullptr) {
       cypherParserInitialize();
     }
-    std::call_once(cypherParserOnceFlag, [] {});
+    call_once(cypherParserOnceFlag, [] {});
   }
 
   void releaseParserTables() {
