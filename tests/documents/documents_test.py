@@ -6,6 +6,7 @@
 The blocks of a document are worked off in order, in a copy of the sources of its own:
 
     cpp      a program: written into the file that its first line names, or else compiled and run
+    cmake    written into the file that its first line names
     diff     applied to the copy
     sh       run, in one shell; of `make` and `ctest` only that they know what they are to do
     text     after a block of commands, what they print; elsewhere a picture
@@ -58,10 +59,9 @@ class Scratch:
     def __init__(self, folder: pathlib.Path) -> None:
         self.folder = folder / "VornLib"
         copy_sources(self.folder)
-        if RECIPES:
-            for downloaded in (SOURCE / "build").glob("antlr*"):
-                (self.folder / "build" / downloaded.name).symlink_to(downloaded)
-        else:
+        for downloaded in (SOURCE / "build").glob("antlr*"):
+            (self.folder / "build" / downloaded.name).symlink_to(downloaded)
+        if not RECIPES:
             (self.folder / "build" / "release").symlink_to(BUILD)
         self.environment = dict(os.environ, LC_ALL="C.UTF-8", CXX=COMPILER)
 
@@ -81,12 +81,20 @@ class Scratch:
         assert result.returncode == 0, f"{commands}\n{output}"
         return output
 
+    def write(self, name: str, text: str) -> None:
+        file = self.folder / name
+        file.parent.mkdir(exist_ok=True)
+        file.write_text(text, encoding="utf-8")
+
     def write_program(self, text: str) -> None:
         name = re.match(r"// (\S+\.(?:cpp|h))\n", text)
         if name:
-            (self.folder / name[1]).write_text(text, encoding="utf-8")
+            self.write(name[1], text)
         else:
             self.run_fragment(text)
+
+    def write_project(self, text: str) -> None:
+        self.write(re.match(r"# (\S+)\n", text)[1], text)
 
     def run_fragment(self, text: str) -> None:
         """Compiles statements as a program of their own, and runs it."""
@@ -135,6 +143,8 @@ class Blocks(unittest.TestCase):
                 self.assertEqual(output, block.text)
         elif block.language == "cpp":
             scratch.write_program(block.text)
+        elif block.language == "cmake":
+            scratch.write_project(block.text)
         elif block.language == "diff":
             scratch.apply(block.text)
         else:
