@@ -197,6 +197,12 @@ class Prose(unittest.TestCase):
         folders = {folder.name for folder in SOURCE.iterdir() if folder.is_dir()}
         self.assertEqual({name for name in folders if not name.startswith(".")} - {"build"}, named)
 
+    def test_of_the_architecture_names_every_header_inside(self) -> None:
+        text = "".join((SOURCE / "docs" / name).read_text(encoding="utf-8") for name in ["architecture.md", "strings.md"])
+        for header in [*SOURCE.glob("src/*.h"), *SOURCE.glob("platform/*.h")]:
+            with self.subTest(header=header.name):
+                self.assertTrue(re.search(rf"\b{header.stem}\b", text))
+
     def test_has_no_code_that_nobody_runs(self) -> None:
         for path in DOCUMENTS:
             with self.subTest(document=path.name):
