@@ -55,7 +55,9 @@ class Packages(unittest.TestCase):
         )  # fmt: skip
 
     def inside(self, commands: str) -> str:
-        return run(*AS_ROOT, "chroot", self.root, "bash", "-ec", f"cd /host; export LC_ALL=C.UTF-8; {commands}")
+        # What this machine's environment says, of a compiler cache for example, is not true there.
+        environment = ["env", "-i", "PATH=/usr/sbin:/usr/bin:/sbin:/bin", "LC_ALL=C.UTF-8"]
+        return run(*AS_ROOT, *environment, "chroot", self.root, "bash", "-ec", f"cd /host; {commands}")
 
     def test_are_three(self) -> None:
         names = [path.name.split("_")[0] for path in PACKAGES]
