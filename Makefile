@@ -1,6 +1,6 @@
 # The front door. `make help` lists what can be done.
 .DEFAULT_GOAL := help
-.PHONY: $(shell sed -n 's/^\([a-z-]*\):.*\#\# .*/\1/p' Makefile)
+.PHONY: $(shell sed -n 's/^\([a-z0-9-]*\):.*\#\# .*/\1/p' Makefile)
 
 BUILD := build/release
 WINDOWS_BUILD := build/windows
@@ -12,7 +12,7 @@ FUZZ := build/fuzz
 MILLIONS := 2
 
 help: ## list these targets
-	@sed -n 's/^\([a-z-]*\):.*## /\1\t/p' $(MAKEFILE_LIST) | expand -t 16
+	@sed -n 's/^\([a-z0-9-]*\):.*## /\1\t/p' $(MAKEFILE_LIST) | expand -t 22
 
 setup: ## install the packages that are missing, get the ANTLR runtime
 	@tools/install-packages.sh build
