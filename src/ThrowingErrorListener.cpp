@@ -12,6 +12,7 @@
 ThrowingErrorListener& ThrowingErrorListener::instance() {
   using Listener = ThrowingErrorListener;
   alignas(Listener) static std::array<std::byte, sizeof(Listener)> storage;
+  // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): it has no state
   static auto* const listener = ::new (storage.data()) Listener;
   return *listener;
 }

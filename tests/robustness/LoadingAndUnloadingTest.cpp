@@ -57,7 +57,7 @@ TEST(EndOfTheProcess, LeavesACallThatTheHostMakesThenAnsweredAsAlways) {
   EXPECT_EXIT(
       {
         static std::unique_ptr<LoadedLibrary> library;
-        std::atexit([] { std::_Exit(answersOf(*library) == expected ? 0 : 1); });
+        static_cast<void>(std::atexit([] { std::_Exit(answersOf(*library) == expected ? 0 : 1); }));
         library = std::make_unique<LoadedLibrary>();
         answersOf(*library);
         std::exit(0);
