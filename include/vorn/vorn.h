@@ -29,7 +29,7 @@
 ///
 /// - The parser recurses. A text that nests too deeply for the calling thread's stack is refused by
 ///   std::length_error, hence by status 1 from GetOutputNamesAndTypes. With 1 MiB of stack left,
-///   250 levels of any bracket fit; with 8 MiB, 2,000. On Windows it is 200 and 1,600. Where the
+///   250 levels of any bracket fit; with 8 MiB, 2,000. On Windows it is 150 and 1,200. Where the
 ///   platform cannot tell how large the stack is (a coroutine's on Linux), 64 KiB are assumed,
 ///   enough for a few levels. Less than 48 KiB may be refused whatever the text. Less than 20 KiB,
 ///   on Windows 32 KiB, may not suffice to throw that exception: the process then ends by an

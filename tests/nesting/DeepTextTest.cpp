@@ -33,6 +33,11 @@ TEST_P(NestedText, OfEightTimesAsManyLevelsFitsEightMebibytes) {
   onStackOf(8 * mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
 }
 
+TEST(TextOfManyRulesForEachLevel, OfThePromisedLevelsFitsOneMebibyte) {
+  const WideString text = mostRules.nested(VORN_LEVELS_IN_A_MEBIBYTE);
+  onStackOf(mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
+}
+
 INSTANTIATE_TEST_SUITE_P(Plain, NestedText, testing::ValuesIn(plainShapes()),
                          testing::PrintToStringParamName());
 
