@@ -42,7 +42,7 @@ TEST(LoadingAndUnloading, AfterADeepTextTakesLittleStack) {
                                 vorn::WideString(1500, u')');
   auto library = std::make_unique<LoadedLibrary>();
   int status = 1;
-  onStackOf(8 * mebibyte, [&] {
+  onStackOf(64 * mebibyte, [&] {
     std::vector<std::pair<vorn::WideString, vorn::CypherType>> columns;
     status = library->calls().columns(text, columns);
   });
