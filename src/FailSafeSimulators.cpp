@@ -7,11 +7,16 @@
 #include <Token.h>
 #include <TokenStream.h>
 #include <atn/ATN.h>
+#include <atn/ATNConfig.h>
 #include <atn/ATNConfigSet.h>
 #include <atn/DecisionState.h>
 #include <atn/OrderedATNConfigSet.h>
+#include <atn/PredictionContext.h>
 #include <atn/PredictionMode.h>
+#include <atn/RuleTransition.h>
+#include <atn/SingletonPredictionContext.h>
 #include <dfa/DFA.h>
+#include <support/Casts.h>
 
 #include <utility>
 #include <vector>
@@ -19,8 +24,12 @@
 namespace vorn {
 
 using antlr4::atn::ATN;
+using antlr4::atn::ATNConfig;
 using antlr4::atn::ATNConfigSet;
+using antlr4::atn::PredictionContext;
 using antlr4::atn::PredictionModeClass;
+using antlr4::atn::RuleTransition;
+using antlr4::atn::SingletonPredictionContext;
 using antlr4::dfa::DFA;
 using antlr4::dfa::DFAState;
 
@@ -124,8 +133,7 @@ size_t FailSafeParserSimulator::execATN(DFA& dfa, DFAState* start, antlr4::Token
                                  outerContext);
     }
     if (target->requiresFullContext) {
-      const std::unique_ptr<ATNConfigSet> fullStart =
-          computeStartState(dfa.atnStartState, outerContext, true);
+      const std::unique_ptr<ATNConfigSet> fullStart = fullContextStart(dfa, outerContext);
       reportAttemptingFullContext(dfa, antlrcpp::BitSet(), target->configs.get(), startIndex,
                                   input->index());
       return execATNWithFullContext(dfa, target, fullStart.get(), input, startIndex, outerContext);
@@ -139,6 +147,40 @@ size_t FailSafeParserSimulator::execATN(DFA& dfa, DFAState* start, antlr4::Token
       symbol = input->LA(1);
     }
   }
+}
+
+// As in the runtime, but for the context.
+std::unique_ptr<ATNConfigSet> FailSafeParserSimulator::fullContextStart(
+    const DFA& dfa, const antlr4::RuleContext* innermost) {
+  const HeldContexts::Context context = contextOf(innermost);
+  auto start = std::make_unique<ATNConfigSet>(true);
+  std::size_t alternative = 0;
+  for (const auto& transition : dfa.atnStartState->transitions) {
+    const auto configuration =
+        std::make_shared<ATNConfig>(transition->target, ++alternative, context);
+    ATNConfig::Set busy;
+    closure(configuration, start.get(), busy, true, true, false);
+  }
+  return start;
+}
+
+// The runtime builds such a chain, hashes it and releases it by recursion over all open rules.
+HeldContexts::Context FailSafeParserSimulator::contextOf(const antlr4::RuleContext* innermost) {
+  std::vector<std::size_t> callers;
+  for (const auto* rule = innermost; rule->parent != nullptr;
+       rule = antlrcpp::downCast<const antlr4::RuleContext*>(rule->parent)) {
+    callers.push_back(rule->invokingState);
+  }
+  openRules.release();
+  HeldContexts::Context context = PredictionContext::EMPTY;
+  for (auto caller = callers.rbegin(); caller != callers.rend(); ++caller) {
+    const auto& call =
+        antlrcpp::downCast<const RuleTransition&>(*atn.states[*caller]->transitions[0]);
+    context = SingletonPredictionContext::create(context, call.followState->stateNumber);
+    context->hashCode();
+    openRules.hold(context);
+  }
+  return context;
 }
 
 // The alternative that was complete where the text went on with nothing that fits, or the error.

@@ -6,13 +6,15 @@
 #include <memory>
 
 #include "DfaIndex.h"
+#include "HeldContexts.h"
 #include "PredictionTables.h"
 
 namespace vorn {
 
 /// Predicts as the runtime does, in tables that it keeps alive, and leaves them sound if an
 /// exception, such as a failed allocation, ends the prediction. The runtime would leave a state in
-/// them that it frees, and lose others. What was predicted before needs no lock.
+/// them that it frees, and lose others. What was predicted before needs no lock, and the open rules
+/// no recursion.
 class FailSafeParserSimulator final : public antlr4::atn::ParserATNSimulator {
  public:
   FailSafeParserSimulator(antlr4::Parser& ofParser, std::shared_ptr<PredictionTables> tables);
@@ -36,7 +38,12 @@ class FailSafeParserSimulator final : public antlr4::atn::ParserATNSimulator {
   size_t finishedAlternative(antlr4::atn::ATNConfigSet* configs, antlr4::TokenStream* input,
                              size_t startIndex, antlr4::ParserRuleContext* outerContext);
 
+  std::unique_ptr<antlr4::atn::ATNConfigSet> fullContextStart(const antlr4::dfa::DFA& dfa,
+                                                              const antlr4::RuleContext* innermost);
+  HeldContexts::Context contextOf(const antlr4::RuleContext* innermost);
+
   std::shared_ptr<PredictionTables> tables;
+  HeldContexts openRules;  // of the last prediction with the full context
 };
 
 /// The same for the lexer. What was matched before needs no lock.

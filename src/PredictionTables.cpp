@@ -38,11 +38,10 @@ struct Shared {
   std::shared_ptr<PredictionTables> tables;
 };
 
-using Context = std::shared_ptr<const antlr4::atn::PredictionContext>;
+using Context = HeldContexts::Context;
 
-// Appends a context and all that it refers to, these first, unless they were seen before.
-void append(const Context& context, std::unordered_set<const void*>& seen,
-            std::vector<Context>& contexts) {
+// Holds a context and all that it refers to, these first, unless they were seen before.
+void hold(const Context& context, std::unordered_set<const void*>& seen, HeldContexts& held) {
   struct Visit {
     const Context* context;
     std::size_t next = 0;  // of those it refers to
@@ -60,23 +59,21 @@ void append(const Context& context, std::unordered_set<const void*>& seen,
     if (visit.next < current->size()) {
       enter(current->getParent(visit.next++));
     } else {
-      contexts.push_back(current);
+      held.hold(current);
       open.pop_back();
     }
   }
 }
 
-std::vector<Context> contextsOf(const std::vector<antlr4::dfa::DFA>& decisions) {
+void holdContextsOf(const std::vector<antlr4::dfa::DFA>& decisions, HeldContexts& held) {
   std::unordered_set<const void*> seen;
-  std::vector<Context> contexts;
   for (const antlr4::dfa::DFA& decision : decisions) {
     for (const antlr4::dfa::DFAState* state : decision.states) {
       for (const auto& configuration : state->configs->configs) {
-        append(configuration->context, seen, contexts);
+        hold(configuration->context, seen, held);
       }
     }
   }
-  return contexts;
 }
 
 }  // namespace
@@ -90,19 +87,12 @@ PredictionTables::PredictionTables(const antlr4::atn::ATN& atn)
   }
 }
 
-// A context keeps the one that it refers to alive. Such a chain is as long as a text was deep, and
-// would be released by recursion on a stack that may be smaller than the one of that text.
+// The stack may be smaller than the one of the deepest text.
 PredictionTables::~PredictionTables() {
   try {
-    held.contexts = contextsOf(decisions);
+    holdContextsOf(decisions, held);
   } catch (const std::bad_alloc&) {
-    held.contexts.clear();
-  }
-}
-
-PredictionTables::HeldContexts::~HeldContexts() {
-  while (!contexts.empty()) {
-    contexts.pop_back();
+    held.release();
   }
 }
 

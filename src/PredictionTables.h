@@ -1,6 +1,5 @@
 #pragma once
 
-#include <atn/PredictionContext.h>
 #include <atn/PredictionContextCache.h>
 #include <dfa/DFA.h>
 
@@ -10,6 +9,7 @@
 #include <vector>
 
 #include "DfaIndex.h"
+#include "HeldContexts.h"
 
 namespace antlr4::atn {
 class ATN;
@@ -37,18 +37,6 @@ class PredictionTables {
   ~PredictionTables();
 
  private:
-  // Every context stands behind those that it refers to and goes before them.
-  struct HeldContexts {
-    std::vector<std::shared_ptr<const antlr4::atn::PredictionContext>> contexts;
-
-    HeldContexts() = default;
-    HeldContexts(const HeldContexts&) = delete;
-    HeldContexts& operator=(const HeldContexts&) = delete;
-    HeldContexts(HeldContexts&&) = delete;
-    HeldContexts& operator=(HeldContexts&&) = delete;
-    ~HeldContexts();
-  };
-
   [[nodiscard]] bool isOutgrown() const;
 
   HeldContexts held;  // outlives what refers to the contexts
