@@ -51,6 +51,12 @@ class GuardedParser final : public CypherParser {
     CypherParser::enterRule(context, state, rule);
   }
 
+  // Nobody asks but an error strategy that has met an error.
+  antlr4::misc::IntervalSet getExpectedTokens() override {
+    guard.meetError();
+    return CypherParser::getExpectedTokens();
+  }
+
   // Does what the runtime does as long as nothing is wrong, and the first error is fatal. A
   // terminal node owns nothing, so nobody has to destroy it.
   antlr4::Token* consume() override {

@@ -55,9 +55,13 @@ NestingGuard::NestingGuard() {
   if (size < flatReserve) {
     refuse();
   }
-  // Prediction over the full context recurses once more over all open rules. It takes 80 bytes
-  // where the parser takes 64, so 1.4 times as much as what is used is kept free for it.
-  deepestPosition = end + (5 * flatReserve + 7 * size) / 12;
+  flatEnd = end + flatReserve;
+  const std::uintptr_t usable = size - flatReserve;
+  // An eighth is for what no one has measured.
+  deepestRule = flatEnd + usable / 8;
+  // What may follow an error is looked up by recursion over all open rules. It takes 80 bytes where
+  // the parser takes 64, so 1.4 times as much as what is used is kept free for it.
+  deepestError = flatEnd + 7 * usable / 12;
 }
 
 void NestingGuard::refuse() {
@@ -102,9 +106,7 @@ void NestingGuard::open(const antlr4::Token& token) {
   const std::uintptr_t depth = openings.empty() ? 0 : openings.back().depth;
   openings.push_back(
       {token.getStartIndex(), token.getType(), depth + (isSubquery ? subquerySize : levelSize)});
-  if (stackPosition() < deepestPosition + sizeAhead()) {
-    refuse();
-  }
+  refuseBelow(flatEnd + 12 * sizeAhead() / 5);
 }
 
 // Brackets need not match: neither the parser nor prediction goes on after one that does not.

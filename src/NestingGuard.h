@@ -25,11 +25,10 @@ class NestingGuard {
   void watch(antlr4::Parser& itsParser) { parser = &itsParser; }
 
   /// To be called whenever the parser enters a rule.
-  void enterRule() const {
-    if (stackPosition() < deepestPosition) {
-      refuse();
-    }
-  }
+  void enterRule() const { refuseBelow(deepestRule); }
+
+  /// To be called when the parser meets an error.
+  void meetError() const { refuseBelow(deepestError); }
 
   /// To be called with each token that is read, in the order of the text.
   void readToken(const antlr4::Token& token);
@@ -42,12 +41,20 @@ class NestingGuard {
   };
 
   [[noreturn]] static void refuse();
+  static void refuseBelow(std::uintptr_t position) {
+    if (stackPosition() < position) {
+      refuse();
+    }
+  }
   void open(const antlr4::Token& token);
   void closeBracket();
   void closeCase();
   [[nodiscard]] std::uintptr_t sizeAhead() const;
 
-  std::uintptr_t deepestPosition;  // the lowest that a rule may be entered at
+  // The lowest positions at which
+  std::uintptr_t flatEnd;       // prediction begins that looks no level ahead,
+  std::uintptr_t deepestRule;   // the parser enters a rule,
+  std::uintptr_t deepestError;  // and an error is looked into.
   antlr4::Parser* parser = nullptr;
   std::vector<Opening> openings;  // that are still open, in the order of the text
   std::size_t lastTokenType = 0;  // white space and comments aside

@@ -29,11 +29,11 @@
 ///
 /// - The parser recurses. A text that nests too deeply for the calling thread's stack is refused by
 ///   std::length_error, hence by status 1 from GetOutputNamesAndTypes. With 1 MiB of stack left,
-///   250 levels of any bracket fit; with 8 MiB, 2,000. On Windows it is 150 and 1,200. Where the
-///   platform cannot tell how large the stack is (a coroutine's on Linux), 64 KiB are assumed,
-///   enough for a few levels. Less than 48 KiB may be refused whatever the text. Less than 20 KiB,
-///   on Windows 32 KiB, may not suffice to throw that exception: the process then ends by an
-///   overflow.
+///   250 levels of any bracket fit; with 8 MiB, 2,000. A wrong text may be refused in the same way
+///   some levels earlier, since it takes stack to tell what is wrong. Where the platform cannot
+///   tell how large the stack is (a coroutine's on Linux), 64 KiB are assumed, enough for a few
+///   levels. Less than 48 KiB may be refused whatever the text. Less than 20 KiB, on Windows
+///   32 KiB, may not suffice to throw that exception: the process then ends by an overflow.
 /// - The tables by which the parser predicts are shared by the process. They grow with every new
 ///   shape of text up to a bound, and are then begun anew. A text that nests deeply can also take
 ///   time that grows faster than its length. So bound the length of what a stranger may send.

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "Answer.h"
 #include "Shapes.h"
 #include "StackedThread.h"
 #include "support/Text.h"
@@ -17,6 +18,9 @@ namespace {
 
 using vorn::WideString;
 
+// As include/vorn/vorn.h promises.
+constexpr std::size_t levelsInAMebibyte = 250;
+
 WideString renamed(const WideString& expression) {
   return vorn::ReplaceVariableNamesInPropertyFilterOCExpression(expression, {});
 }
@@ -24,18 +28,63 @@ WideString renamed(const WideString& expression) {
 class NestedText : public testing::TestWithParam<Shape> {};
 
 TEST_P(NestedText, OfThePromisedLevelsFitsOneMebibyte) {
-  const WideString text = GetParam().nested(VORN_LEVELS_IN_A_MEBIBYTE);
+  const WideString text = GetParam().nested(levelsInAMebibyte);
   onStackOf(mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
 }
 
 TEST_P(NestedText, OfEightTimesAsManyLevelsFitsEightMebibytes) {
-  const WideString text = GetParam().nested(std::size_t{8} * VORN_LEVELS_IN_A_MEBIBYTE);
+  const WideString text = GetParam().nested(8 * levelsInAMebibyte);
   onStackOf(8 * mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
 }
 
 TEST(TextOfManyRulesForEachLevel, OfThePromisedLevelsFitsOneMebibyte) {
-  const WideString text = mostRules.nested(VORN_LEVELS_IN_A_MEBIBYTE);
+  const WideString text = mostRules.nested(levelsInAMebibyte);
   onStackOf(mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
+}
+
+// However close to its end the stack gets.
+TEST_P(NestedText, IsAnsweredOrRefusedAtEveryDepth) {
+  const Shape& shape = GetParam();
+  onStackOf(128 * kibibyte, [&] {
+    std::size_t levels = 1;
+    while (answerFor(shape.nested(levels)) == Answer::Right) {
+      ++levels;
+    }
+    EXPECT_EQ(answerFor(shape.nested(levels)), Answer::TooDeep);
+    EXPECT_GT(levels, 15);
+  });
+}
+
+// Prediction needs the open rules there. On a larger stack little of it would do for each of them.
+TEST(ParenthesesAroundAPattern, AreAnsweredOrRefusedUpToTheEndOfOneMebibyte) {
+  const Shape shape{"", "(", ")", "(a)-[b]-(a)"};
+  onStackOf(mebibyte, [&] {
+    std::size_t levels = 500;
+    while (answerFor(shape.nested(levels)) == Answer::Right) {
+      levels += 5;
+    }
+    EXPECT_EQ(answerFor(shape.nested(levels)), Answer::TooDeep);
+    EXPECT_GT(levels, 500);
+  });
+}
+
+// To tell what is missing, the runtime recurses over all open rules once more.
+TEST_P(NestedText, IsRefusedOrWrongAtEveryDepthIfAColonIsMissing) {
+  const Shape& shape = GetParam();
+  onStackOf(128 * kibibyte, [&] {
+    std::size_t wrong = 0;
+    for (std::size_t levels = 1; levels < 80; ++levels) {
+      const WideString text = Shape{shape.name, shape.open, shape.close, "{a 1}"}.nested(levels);
+      try {
+        ADD_FAILURE() << renamed(text).size();
+      } catch (const std::length_error&) {
+        continue;
+      } catch (const std::exception&) {
+        ++wrong;
+      }
+    }
+    EXPECT_GT(wrong, 5);
+  });
 }
 
 INSTANTIATE_TEST_SUITE_P(Plain, NestedText, testing::ValuesIn(plainShapes()),

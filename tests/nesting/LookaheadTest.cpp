@@ -60,9 +60,9 @@ TEST(LookingAhead, DoesNotTakeANameEndForTheEndOfACase) {
 }
 
 TEST(LookingAhead, FromDeepInsideATextCountsBothDepths) {
-  constexpr std::size_t fitting = 200;  // alone
-  const WideString text = wide(repeated("(", fitting) + "[x IN " + repeated("[", fitting) + "a" +
-                               repeated("]", fitting) + "]" + repeated(")", fitting));
+  constexpr std::size_t fitting = 300;  // alone
+  const std::string ahead = "[x IN " + repeated("[", fitting) + "a" + repeated("]", fitting) + "]";
+  const WideString text = wide(repeated("(", fitting) + ahead + repeated(")", fitting));
   onStackOf(mebibyte, [&] {
     EXPECT_THROW(vorn::ReplaceVariableNamesInPropertyFilterOCExpression(text, {}),
                  std::length_error);

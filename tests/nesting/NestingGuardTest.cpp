@@ -24,20 +24,52 @@ namespace {
   EXPECT_EQ(*used, 1);
 }
 
-[[gnu::noinline]] bool refuses(const vorn::NestingGuard& guard) {
+template <typename Question>
+[[gnu::noinline]] bool refuses(Question question) {
   try {
-    guard.enterRule();
+    question();
     return false;
   } catch (const std::length_error&) {
     return true;
   }
 }
 
-TEST(NestingGuard, LetsTwoFifthsOfTheStackBeUsed) {
+bool refusesARule(const vorn::NestingGuard& guard) {
+  return refuses([&] { guard.enterRule(); });
+}
+
+bool refusesAnError(const vorn::NestingGuard& guard) {
+  return refuses([&] { guard.meetError(); });
+}
+
+class GuardedExpression {
+ public:
+  explicit GuardedExpression(const char* text) : input(text) {}
+
+  void parse() { parser.oC_Expression(); }
+
+ private:
+  vorn::NestingGuard guard;
+  std::pmr::monotonic_buffer_resource memory;
+  antlr4::ANTLRInputStream input;
+  vorn::GuardedLexer lexer{&input, guard, memory};
+  antlr4::CommonTokenStream tokens{&lexer};
+  vorn::GuardedParser parser{&tokens, guard, memory};
+};
+
+TEST(NestingGuard, LetsMostOfTheStackBeUsed) {
   onStackOf(mebibyte, [] {
     const vorn::NestingGuard guard;
-    below(360 * kibibyte, [&] { EXPECT_FALSE(refuses(guard)); });
-    below(440 * kibibyte, [&] { EXPECT_TRUE(refuses(guard)); });
+    below(830 * kibibyte, [&] { EXPECT_FALSE(refusesARule(guard)); });
+    below(890 * kibibyte, [&] { EXPECT_TRUE(refusesARule(guard)); });
+  });
+}
+
+TEST(NestingGuard, LooksIntoErrorsWithTwoFifthsOfTheStackInUse) {
+  onStackOf(mebibyte, [] {
+    const vorn::NestingGuard guard;
+    below(360 * kibibyte, [&] { EXPECT_FALSE(refusesAnError(guard)); });
+    below(440 * kibibyte, [&] { EXPECT_TRUE(refusesAnError(guard)); });
   });
 }
 
@@ -45,8 +77,8 @@ TEST(NestingGuard, CountsFromWhereTheCallBegins) {
   onStackOf(mebibyte, [] {
     below(500 * kibibyte, [] {
       const vorn::NestingGuard guard;
-      below(150 * kibibyte, [&] { EXPECT_FALSE(refuses(guard)); });
-      below(240 * kibibyte, [&] { EXPECT_TRUE(refuses(guard)); });
+      below(400 * kibibyte, [&] { EXPECT_FALSE(refusesARule(guard)); });
+      below(460 * kibibyte, [&] { EXPECT_TRUE(refusesARule(guard)); });
     });
   });
 }
@@ -62,13 +94,19 @@ TEST(NestingGuard, RefusesToBeginWithoutRoom) {
 
 TEST(GuardedParser, AsksTheGuardAtEachRule) {
   onStackOf(mebibyte, [] {
-    vorn::NestingGuard guard;
-    antlr4::ANTLRInputStream input("a");
-    std::pmr::monotonic_buffer_resource memory;
-    vorn::GuardedLexer lexer(&input, guard, memory);
-    antlr4::CommonTokenStream tokens(&lexer);
-    vorn::GuardedParser parser(&tokens, guard, memory);
-    below(440 * kibibyte, [&] { EXPECT_THROW(parser.oC_Expression(), std::length_error); });
+    GuardedExpression expression("a");
+    below(890 * kibibyte, [&] { EXPECT_THROW(expression.parse(), std::length_error); });
+  });
+}
+
+TEST(GuardedParser, AsksTheGuardAtAnError) {
+  onStackOf(mebibyte, [] {
+    GuardedExpression right("{a: 1}");
+    GuardedExpression wrong("{a 1}");
+    below(440 * kibibyte, [&] {
+      EXPECT_NO_THROW(right.parse());
+      EXPECT_THROW(wrong.parse(), std::length_error);
+    });
   });
 }
 
