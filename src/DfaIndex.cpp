@@ -5,6 +5,9 @@
 namespace vorn {
 
 DfaIndex::State& DfaIndex::setStart(std::size_t automaton, antlr4::dfa::DFAState& start) {
+  if (State* const known = this->start(automaton); known != nullptr) {
+    return *known;
+  }
   const std::lock_guard<std::mutex> lock(mutex);
   State& state = stateFor(start);
   starts[automaton].store(&state, std::memory_order_release);
