@@ -5,7 +5,6 @@
 #include <atn/ATNConfigSet.h>
 #include <dfa/DFAState.h>
 
-#include <array>
 #include <cstddef>
 #include <memory>
 #include <mutex>
@@ -13,6 +12,8 @@
 #include <unordered_set>
 #include <utility>
 #include <vector>
+
+#include "NeverDestroyed.h"
 
 namespace vorn {
 
@@ -24,16 +25,9 @@ constexpr std::size_t maxConfigurations = 400'000;
 // The edges of a state take as much in the index as so many configurations.
 constexpr std::size_t configurationsOfEdges = 7;
 
-// Is never destroyed: at the end of the process other threads may still make calls, and Windows has
-// ended them by then wherever they were, maybe holding the mutex.
+// Is never destroyed, on Windows for one more reason: at the end of the process it has ended the
+// other threads wherever they were, maybe holding the mutex.
 struct Shared {
-  static Shared& instance() {
-    alignas(Shared) static std::array<std::byte, sizeof(Shared)> storage;
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): guarded by its mutex
-    static auto* const shared = ::new (storage.data()) Shared;
-    return *shared;
-  }
-
   std::mutex mutex;
   std::shared_ptr<PredictionTables> tables;
 };
@@ -97,7 +91,7 @@ PredictionTables::~PredictionTables() {
 }
 
 std::shared_ptr<PredictionTables> PredictionTables::current(const antlr4::atn::ATN& atn) {
-  Shared& shared = Shared::instance();
+  Shared& shared = neverDestroyed<Shared>();
   std::shared_ptr<PredictionTables> outgrown;  // goes after the lock
   const std::lock_guard<std::mutex> lock(shared.mutex);
   if (shared.tables == nullptr || shared.tables->isOutgrown()) {
@@ -112,7 +106,7 @@ bool PredictionTables::isOutgrown() const {
 }
 
 void PredictionTables::release() {
-  Shared& shared = Shared::instance();
+  Shared& shared = neverDestroyed<Shared>();
   const std::lock_guard<std::mutex> lock(shared.mutex);
   shared.tables.reset();
 }

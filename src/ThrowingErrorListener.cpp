@@ -2,19 +2,13 @@
 
 #include <Exceptions.h>
 
-#include <array>
-#include <cstddef>
-#include <new>
 #include <string>
 
-// Is never destroyed: at the end of the process other threads, and what the host does last, may
-// still make calls. Half destroyed it would take every text for an error-free one.
+#include "NeverDestroyed.h"
+
+// Half destroyed it would take every text for an error-free one.
 ThrowingErrorListener& ThrowingErrorListener::instance() {
-  using Listener = ThrowingErrorListener;
-  alignas(Listener) static std::array<std::byte, sizeof(Listener)> storage;
-  // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): it has no state
-  static auto* const listener = ::new (storage.data()) Listener;
-  return *listener;
+  return vorn::neverDestroyed<ThrowingErrorListener>();
 }
 
 void ThrowingErrorListener::syntaxError(antlr4::Recognizer* /*recognizer*/,
