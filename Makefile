@@ -45,7 +45,7 @@ large-texts: setup $(BUILD)/build.ninja ## measure time and memory of large and 
 
 allocations: setup $(BUILD)/build.ninja ## let every allocation of every first call fail (hours)
 	@cmake --build --preset release --target VornLib failing_allocations_test
-	@VORN_EVERY_ALLOCATION=1 $(BUILD)/tests/robustness/failing_allocations_test
+	@VORN_EVERY_ALLOCATION=1 ctest --preset release -R FailingAllocations.InTheFirst --timeout 36000
 
 test-asan: setup ## run the tests under AddressSanitizer and UBSan
 	@cmake --preset asan >/dev/null

@@ -26,7 +26,7 @@ constexpr std::size_t oneInThisManyFailuresMayLose = 12;
 const std::string outOfMemory = "failed: std::bad_alloc";
 const std::string outOfMemoryForColumns = "status 1, from before the call 0";
 
-// A first call makes some 100,000 allocations. All of them take an hour and have a make target.
+// A first call makes some 100,000 allocations. All of them take hours and have a make target.
 std::size_t step() { return std::getenv("VORN_EVERY_ALLOCATION") == nullptr ? 499 : 1; }
 
 struct Attempt {
