@@ -91,7 +91,7 @@ PredictionTables::~PredictionTables() {
 }
 
 std::shared_ptr<PredictionTables> PredictionTables::current(const antlr4::atn::ATN& atn) {
-  Shared& shared = neverDestroyed<Shared>();
+  auto& shared = neverDestroyed<Shared>();
   std::shared_ptr<PredictionTables> outgrown;  // goes after the lock
   const std::lock_guard<std::mutex> lock(shared.mutex);
   if (shared.tables == nullptr || shared.tables->isOutgrown()) {
@@ -106,7 +106,7 @@ bool PredictionTables::isOutgrown() const {
 }
 
 void PredictionTables::release() {
-  Shared& shared = neverDestroyed<Shared>();
+  auto& shared = neverDestroyed<Shared>();
   const std::lock_guard<std::mutex> lock(shared.mutex);
   shared.tables.reset();
 }
