@@ -3,26 +3,52 @@
 #include <utf8.h>
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <numeric>
 
 namespace StringUtf8ImplDetail {
 
 namespace {
 
+constexpr int lastAscii = 0x7F;
+
 template <typename Unit>
 bool isAscii(Unit unit) {
-  constexpr int last = 0x7F;
-  return unit >= 0 && unit <= last;
+  return unit >= 0 && unit <= lastAscii;
 }
 
-// Texts are ASCII for the most part, which is copied unit by unit; `convert` is for the rest.
+// Copies what is ASCII at the start of a text and says how much that was. By blocks, of which the
+// compiler makes a few instructions.
+template <typename Unit, typename Other>
+std::ptrdiff_t copyAscii(const Unit* first, const Unit* last, Other* output) {
+  constexpr std::ptrdiff_t size = 16;
+  const auto convert = [](Unit unit) { return static_cast<Other>(unit); };
+  const Unit* unit = first;
+  for (; last - unit >= size; unit += size, output += size) {
+    std::array<Unit, size> block{};
+    std::copy_n(unit, size, block.begin());
+    const Unit all = std::accumulate(block.begin(), block.end(), Unit{}, std::bit_or<Unit>());
+    if (!isAscii(all)) {
+      break;
+    }
+    std::transform(block.begin(), block.end(), output, convert);
+  }
+  for (; unit != last && isAscii(*unit); ++unit) {
+    *output++ = convert(*unit);
+  }
+  return unit - first;
+}
+
+// Texts are ASCII for the most part; `convert` is for the rest.
 template <typename Unit, typename Other, typename Convert>
 Other* convertText(const Unit* first, const Unit* last, Other* output, const Convert& convert) {
   while (first != last) {
-    for (; first != last && isAscii(*first); ++first) {
-      *output++ = static_cast<Other>(*first);
-    }
+    const std::ptrdiff_t copied = copyAscii(first, last, output);
+    first += copied;
     const Unit* const ascii = std::find_if(first, last, isAscii<Unit>);
-    output = convert(first, ascii, output);
+    output = convert(first, ascii, output + copied);
     first = ascii;
   }
   return output;
@@ -32,16 +58,14 @@ Other* convertText(const Unit* first, const Unit* last, Other* output, const Con
 
 std::string StringWideCharToUtf8Impl(std::basic_string_view<vorn::WideChar> text) {
   std::string utf8(text.size(), '\0');
-  std::size_t ascii = 0;
-  for (; ascii < text.size() && isAscii(text[ascii]); ++ascii) {
-    utf8[ascii] = static_cast<char>(text[ascii]);
-  }
+  const vorn::WideChar* const last = text.data() + text.size();
+  const std::ptrdiff_t ascii = copyAscii(text.data(), last, utf8.data());
   // From here on one unit takes three bytes at most.
-  utf8.resize(ascii + 3 * (text.size() - ascii));
+  utf8.resize(3 * text.size() - 2 * static_cast<std::size_t>(ascii));
   const char* const end =
-      convertText(text.data() + ascii, text.data() + text.size(), utf8.data() + ascii,
-                  [](const vorn::WideChar* first, const vorn::WideChar* last, char* output) {
-                    return utf8::utf16to8(first, last, output);
+      convertText(text.data() + ascii, last, utf8.data() + ascii,
+                  [](const vorn::WideChar* from, const vorn::WideChar* to, char* output) {
+                    return utf8::utf16to8(from, to, output);
                   });
   utf8.resize(static_cast<std::size_t>(end - utf8.data()));
   return utf8;
