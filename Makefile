@@ -95,7 +95,9 @@ fuzz: setup $(FUZZ)/build.ninja ## run each fuzzer for SECONDS=60
 	@tools/fuzz.sh $(FUZZ) $(SECONDS)
 
 package-windows: windows ## make a zip of library, headers and vorn-inspect for Windows
-	@tools/package-windows.sh
+	@tools/build-optimised.sh windows-optimized
+	@cmake --build build/windows-optimized
+	@tools/package-windows.sh build/windows-optimized
 
 $(BENCH)/build.ninja: | setup
 	@tools/install-packages.sh bench
