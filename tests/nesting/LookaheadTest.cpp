@@ -39,7 +39,17 @@ TEST(LookingAhead, DoesNotCountCasesThatStandSideBySide) {
 
 TEST(LookingAhead, DoesNotTakeAPropertyNamedCaseForACase) {
   expectAccepted("a" + repeated(".case", 300));
+  expectAccepted("a" + repeated(". case", 300));
   expectAccepted(repeated("{case: 1}.case + ", 300) + "a");
+}
+
+TEST(LookingAhead, CountsAMapWhoseFirstKeyIsNamedCaseOnce) {
+  constexpr std::size_t fitting = 120;  // though not twice as many
+  const WideString text =
+      wide("[x IN " + repeated("{case: ", fitting) + "a" + repeated("}", fitting) + "]");
+  onStackOf(512 * kibibyte, [&] {
+    EXPECT_EQ(vorn::ReplaceVariableNamesInPropertyFilterOCExpression(text, {}), text);
+  });
 }
 
 TEST(LookingAhead, ForgetsALabelNamedCaseWithItsBracket) {
