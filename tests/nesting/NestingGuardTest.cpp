@@ -87,8 +87,8 @@ TEST(NestingGuard, RefusesToBeginWithoutRoom) {
   onStackOf(256 * kibibyte, [] {
     // The C library may hand out a larger stack than was asked for.
     const std::size_t size = vorn::stackPosition() - vorn::stackEnd(vorn::stackPosition());
-    below(size - 48 * kibibyte, [] { EXPECT_NO_THROW(vorn::NestingGuard()); });
-    below(size - 24 * kibibyte, [] { EXPECT_THROW(vorn::NestingGuard(), std::length_error); });
+    below(size - 36 * kibibyte, [] { EXPECT_NO_THROW(vorn::NestingGuard()); });
+    below(size - 31 * kibibyte, [] { EXPECT_THROW(vorn::NestingGuard(), std::length_error); });
   });
 }
 
