@@ -77,7 +77,7 @@ void NestingGuard::readToken(const antlr4::Token& token) {
       open(token);
       break;
     case CypherLexer::CASE:
-      if (!isNameAfter(lastTokenType)) {
+      if (!isNameAfter(lastTokenType) && !isKeyExpected()) {
         open(token);
       }
       break;
@@ -104,9 +104,15 @@ void NestingGuard::readToken(const antlr4::Token& token) {
 void NestingGuard::open(const antlr4::Token& token) {
   const bool isSubquery = lastTokenType == CypherLexer::EXISTS && token.getType() == openBrace;
   const std::uintptr_t depth = openings.empty() ? 0 : openings.back().depth;
-  openings.push_back(
-      {token.getStartIndex(), token.getType(), depth + (isSubquery ? subquerySize : levelSize)});
+  openings.push_back({token.getStartIndex(), token.getType(),
+                      depth + (isSubquery ? subquerySize : levelSize),
+                      token.getType() == openBrace && !isSubquery});
   refuseBelow(flatEnd + 12 * sizeAhead() / 5);
+}
+
+// Between the entries of a map. Elsewhere an expression may begin after a comma.
+bool NestingGuard::isKeyExpected() const {
+  return lastTokenType == comma && !openings.empty() && openings.back().isMap;
 }
 
 // Brackets need not match: neither the parser nor prediction goes on after one that does not.

@@ -38,6 +38,7 @@ class NestingGuard {
     std::size_t position;  // of its first code point in the text
     std::size_t tokenType;
     std::uintptr_t depth;  // the stack that the parser takes for all levels up to this one
+    bool isMap;
   };
 
   [[noreturn]] static void refuse();
@@ -47,6 +48,7 @@ class NestingGuard {
     }
   }
   void open(const antlr4::Token& token);
+  [[nodiscard]] bool isKeyExpected() const;
   void closeBracket();
   void closeCase();
   [[nodiscard]] std::uintptr_t sizeAhead() const;
