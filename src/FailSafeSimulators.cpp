@@ -166,17 +166,20 @@ std::unique_ptr<ATNConfigSet> FailSafeParserSimulator::fullContextStart(
 
 // The runtime builds such a chain, hashes it and releases it by recursion over all open rules.
 HeldContexts::Context FailSafeParserSimulator::contextOf(const antlr4::RuleContext* innermost) {
+  constexpr std::size_t usualDepth = 64;
   std::vector<std::size_t> callers;
+  callers.reserve(usualDepth);
   for (const auto* rule = innermost; rule->parent != nullptr;
        rule = antlrcpp::downCast<const antlr4::RuleContext*>(rule->parent)) {
     callers.push_back(rule->invokingState);
   }
   openRules.release();
+  openRules.reserve(callers.size());
   HeldContexts::Context context = PredictionContext::EMPTY;
   for (auto caller = callers.rbegin(); caller != callers.rend(); ++caller) {
     const auto& call =
         antlrcpp::downCast<const RuleTransition&>(*atn.states[*caller]->transitions[0]);
-    context = SingletonPredictionContext::create(context, call.followState->stateNumber);
+    context = SingletonPredictionContext::create(std::move(context), call.followState->stateNumber);
     context->hashCode();
     openRules.hold(context);
   }

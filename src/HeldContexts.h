@@ -2,6 +2,7 @@
 
 #include <atn/PredictionContext.h>
 
+#include <cstddef>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -24,6 +25,9 @@ class HeldContexts {
 
   /// To be called for a context only after those that it refers to.
   void hold(Context context) { contexts.push_back(std::move(context)); }
+
+  /// Makes room for so many.
+  void reserve(std::size_t count) { contexts.reserve(count); }
 
   /// Lets all of them go, each before those that it refers to.
   void release() {
