@@ -9,6 +9,7 @@ The figures are ratios, which the compiler and the machine's libraries change le
 """
 
 import argparse
+import contextlib
 import json
 import pathlib
 import re
@@ -26,32 +27,45 @@ SHAPE_SIZES = ('1', '64')
 GROWTH = 1.02
 
 
-def counts(build, texts):
-    """Instructions by subject, function and place of the text."""
-    found = {}
-    with tempfile.TemporaryDirectory() as folder:
-        command = ['valgrind', '--tool=callgrind', '--instr-atstart=no', '--dump-line=no',
-                   f'--callgrind-out-file={folder}/dump',
-                   build / 'benchmark/instructions/vorn-count-instructions', texts, 'bare', build / 'libVornLib.so']
-        run = subprocess.run(command, capture_output=True, text=True)
-        if run.returncode != 0:
-            sys.exit(f'check-instructions: {run.stderr.strip().splitlines()[-1]}')
-        for dump in pathlib.Path(folder).iterdir():
-            with dump.open(encoding='utf-8', errors='replace') as lines:
-                head = ''.join(line for _, line in zip(range(20), lines))
-            if name := re.search(r'Client Request: (\w+)\t(\w+)\t(\d+)', head):
-                total = re.search(r'^summary: (\d+)', head, re.MULTILINE)
-                found[name[1], name[2], int(name[3])] = int(total[1])
-    return found
+def start(build, texts, subject, folder):
+    return subprocess.Popen(
+        ['valgrind', '--tool=callgrind', '--instr-atstart=no', '--dump-line=no', f'--callgrind-out-file={folder}/dump',
+         build / 'benchmark/instructions/vorn-count-instructions', texts, subject],
+        stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True)
 
 
-def ratios_by_group(found, records, library):
+def counts_in(folder):
+    """Instructions by function and place of the text."""
+    for dump in pathlib.Path(folder).iterdir():
+        with dump.open(encoding='utf-8', errors='replace') as lines:
+            head = ''.join(line for _, line in zip(range(20), lines))
+        if name := re.search(r'Client Request: \w+\t(\w+)\t(\d+)', head):
+            total = re.search(r'^summary: (\d+)', head, re.MULTILINE)
+            yield (name[1], int(name[2])), int(total[1])
+
+
+def counts(build, texts, subjects):
+    """What each subject counts, in a process of its own: what one leaves on the heap would slow another by some percent."""
+    with contextlib.ExitStack() as folders:
+        runs = []
+        for subject in subjects:
+            folder = folders.enter_context(tempfile.TemporaryDirectory())
+            runs.append((start(build, texts, subject, folder), folder))
+        found = []
+        for run, folder in runs:
+            _, errors = run.communicate()
+            if run.returncode != 0:
+                sys.exit(f'check-instructions: {errors.strip().splitlines()[-1]}')
+            found.append(dict(counts_in(folder)))
+        return found
+
+
+def ratios_by_group(ours, bare, records):
     groups = defaultdict(list)
-    for (subject, function, place), count in found.items():
-        if subject == library:
-            bare = found['bare', function, place]
-            groups[f'{records[place]["group"]}: {function}'].append(
-                {'place': place, 'count': count, 'bare': bare, 'ratio': count / bare})
+    for (function, place), count in ours.items():
+        of_bare = bare[function, place]
+        groups[f'{records[place]["group"]}: {function}'].append(
+            {'place': place, 'count': count, 'bare': of_bare, 'ratio': count / of_bare})
     return dict(sorted(groups.items()))
 
 
@@ -92,7 +106,7 @@ def main():
     records = [*texts_of('corpus.py'), *shapes()]
     texts = build / 'corpus.jsonl'
     texts.write_text(''.join(json.dumps(record) + '\n' for record in records), encoding='utf-8')
-    groups = ratios_by_group(counts(build, texts), records, build.name)
+    groups = ratios_by_group(*counts(build, texts, (build / 'libVornLib.so', 'bare')), records)
     figures = figures_of(groups)
     for group, figure in figures.items():
         print(f'{group:40} {figure["ratio"]:7.4f}   worst {figure["worst"]:7.4f}')
