@@ -95,9 +95,7 @@ fuzz: setup $(FUZZ)/build.ninja ## run each fuzzer for SECONDS=60
 	@tools/fuzz.sh $(FUZZ) $(SECONDS)
 
 package-windows: windows ## make a zip of library, headers and vorn-inspect for Windows
-	@tools/build-optimised.sh windows-optimized
-	@cmake --build build/windows-optimized
-	@tools/package-windows.sh build/windows-optimized
+	@tools/package-windows.sh
 
 $(BENCH)/build.ninja: | setup
 	@tools/install-packages.sh bench
