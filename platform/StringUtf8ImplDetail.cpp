@@ -12,11 +12,10 @@ namespace StringUtf8ImplDetail {
 
 namespace {
 
-constexpr int lastAscii = 0x7F;
-
 template <typename Unit>
 bool isAscii(Unit unit) {
-  return unit >= 0 && unit <= lastAscii;
+  constexpr int last = 0x7F;
+  return unit >= 0 && unit <= last;
 }
 
 // Copies what is ASCII at the start of a text and says how much that was. By blocks, of which the

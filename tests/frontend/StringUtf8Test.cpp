@@ -1,5 +1,5 @@
-// The conversions between UTF-16 and UTF-8, compared with the library's that knows no shortcut for
-// ASCII.
+// The conversions between UTF-16 and UTF-8, compared with those of utf8cpp, which know no shortcut
+// for ASCII.
 
 #include <gtest/gtest.h>
 
