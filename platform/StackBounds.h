@@ -13,6 +13,12 @@ namespace vorn {
 inline std::uintptr_t stackPosition() {
 #if defined(_MSC_VER)
   return reinterpret_cast<std::uintptr_t>(_AddressOfReturnAddress());
+#elif defined(_WIN32)
+  // Where __builtin_frame_address is inlined, GCC tells Windows wrong places of the vector
+  // registers that the function has saved, and an exception leaves the caller's own in disorder.
+  std::uintptr_t position;
+  asm volatile("movq %%rsp, %0" : "=r"(position));
+  return position;
 #else
   return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
 #endif
