@@ -94,8 +94,11 @@ fuzz: setup $(FUZZ)/build.ninja ## run each fuzzer for SECONDS=60
 	@cmake --build --preset fuzz --target vorn_fuzzers
 	@tools/fuzz.sh $(FUZZ) $(SECONDS)
 
-package-windows: windows ## make a zip of library, headers and vorn-inspect for Windows
-	@tools/package-windows.sh
+package-windows: build windows ## optimise and test the library for Windows and make a zip of it
+	@tools/build-optimised.sh windows-optimized
+	@cmake --build build/windows-optimized
+	@WINEPATH="$(CURDIR)/build/windows-optimized;$(CURDIR)/$(WINDOWS_BUILD)" tools/test-under-wine.sh
+	@tools/package-windows.sh build/windows-optimized
 
 $(BENCH)/build.ninja: | setup
 	@tools/install-packages.sh bench

@@ -1,13 +1,13 @@
 #!/bin/sh
 # Makes of the Windows build a zip that can be unpacked anywhere.
 #
-#   tools/package-windows.sh
+#   tools/package-windows.sh [BUILD]
 #
 # Prints the path of the zip.
 set -eu
 
 root=$(cd "$(dirname "$0")/.." && pwd)
-build=$root/build/windows
+build=$root/${1:-build/windows}
 
 fail() {
     echo "package-windows: $1" >&2
@@ -39,7 +39,7 @@ for debian_package in gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev; d
     cp -L "$copyright" "$licenses/$debian_package.txt"
 done
 
-zip=$root/build/$name.zip
+zip=$build/$name.zip
 rm -f "$zip"
 (cd "$work" && cmake -E tar cf "$zip" --format=zip "$name")
 echo "$zip"
