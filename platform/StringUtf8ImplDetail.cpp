@@ -56,16 +56,21 @@ Other* convertText(const Unit* first, const Unit* last, Other* output, const Con
 }  // namespace
 
 std::string StringWideCharToUtf8Impl(std::basic_string_view<vorn::WideChar> text) {
-  std::string utf8(text.size(), '\0');
+  // Room for a few characters beyond ASCII, so that most texts need one block of memory.
+  constexpr std::size_t oneInThisMany = 16;
+  std::string utf8(text.size() + text.size() / oneInThisMany, '\0');
   const vorn::WideChar* const last = text.data() + text.size();
-  const std::ptrdiff_t ascii = copyAscii(text.data(), last, utf8.data());
-  // From here on one unit takes three bytes at most.
-  utf8.resize(3 * text.size() - 2 * static_cast<std::size_t>(ascii));
-  const char* const end =
-      convertText(text.data() + ascii, last, utf8.data() + ascii,
-                  [](const vorn::WideChar* from, const vorn::WideChar* to, char* output) {
-                    return utf8::utf16to8(from, to, output);
-                  });
+  const char* const end = convertText(
+      text.data(), last, utf8.data(),
+      [&](const vorn::WideChar* first, const vorn::WideChar* ascii, char* output) {
+        // One of these units takes three bytes at most, each later one at least one.
+        const auto used = static_cast<std::size_t>(output - utf8.data());
+        const auto needed = used + static_cast<std::size_t>(3 * (ascii - first) + (last - ascii));
+        if (needed > utf8.size()) {
+          utf8.resize(needed);
+        }
+        return utf8::utf16to8(first, ascii, utf8.data() + used);
+      });
   utf8.resize(static_cast<std::size_t>(end - utf8.data()));
   return utf8;
 }

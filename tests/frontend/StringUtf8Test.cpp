@@ -24,6 +24,16 @@ TEST(ConversionOfText, FindsACharacterBeyondAsciiAtEveryPlace) {
   }
 }
 
+TEST(ConversionOfText, FindsRoomForAnyNumberOfCharactersBeyondAscii) {
+  for (const char* piece : {"\xE9\x83\xA8", "a\xE9\x83\xA8", "\xC3\xA9 and more ASCII "}) {
+    std::string text;
+    for (int i = 0; i < 300; ++i) {
+      text += piece;
+      EXPECT_EQ(StringWideCharToUtf8Impl(wide(text)), text);
+    }
+  }
+}
+
 TEST(ConversionOfText, FailsOnWhatIsNotWellFormedAtEveryPlace) {
   constexpr std::size_t longest = 70;
   for (std::size_t before = 0; before < longest; ++before) {
