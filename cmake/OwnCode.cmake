@@ -11,7 +11,8 @@ function(vorn_own_code target)
   if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
   elseif(MSVC)
-    target_compile_options(${target} PRIVATE /W4)
+    # Without a word on the attributes that are for others.
+    target_compile_options(${target} PRIVATE /W4 /wd5030)
     # It warns of the C library's own functions otherwise.
     target_compile_definitions(${target} PRIVATE _CRT_SECURE_NO_WARNINGS)
   endif()
