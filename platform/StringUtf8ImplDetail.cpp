@@ -62,7 +62,7 @@ std::string StringWideCharToUtf8Impl(std::basic_string_view<vorn::WideChar> text
   const vorn::WideChar* const last = text.data() + text.size();
   const char* const end = convertText(
       text.data(), last, utf8.data(),
-      [&](const vorn::WideChar* first, const vorn::WideChar* ascii, char* output) {
+      [&](const vorn::WideChar* first, const vorn::WideChar* ascii, const char* output) {
         // One of these units takes three bytes at most, each later one at least one.
         const auto used = static_cast<std::size_t>(output - utf8.data());
         const auto needed = used + static_cast<std::size_t>(3 * (ascii - first) + (last - ascii));
