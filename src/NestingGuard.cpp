@@ -38,12 +38,11 @@ constexpr std::size_t colon = CypherLexer::T__9;
 constexpr std::size_t bar = CypherLexer::T__10;
 constexpr std::size_t dot = CypherLexer::T__22;
 
-// Reserved words serve as names of labels, relationship types and properties too. No CASE begins
-// after these, and none ends after the further ones.
-bool isNameAfter(std::size_t tokenType) { return tokenType == dot || tokenType == openBrace; }
-
-bool isNameOrKeyAfter(std::size_t tokenType) {
-  return isNameAfter(tokenType) || tokenType == comma || tokenType == colon || tokenType == bar;
+// Reserved words serve as names of labels, relationship types and properties too. No CASE ends
+// after these.
+bool isNameAfter(std::size_t tokenType) {
+  return tokenType == dot || tokenType == openBrace || tokenType == comma || tokenType == colon ||
+         tokenType == bar;
 }
 
 }  // namespace
@@ -77,7 +76,7 @@ void NestingGuard::readToken(const antlr4::Token& token) {
       open(token);
       break;
     case CypherLexer::CASE:
-      if (!isNameAfter(lastTokenType) && !isKeyExpected()) {
+      if (!isNameExpected()) {
         open(token);
       }
       break;
@@ -87,7 +86,7 @@ void NestingGuard::readToken(const antlr4::Token& token) {
       closeBracket();
       break;
     case CypherLexer::END:
-      if (!isNameOrKeyAfter(lastTokenType)) {
+      if (!isNameAfter(lastTokenTypes[0])) {
         closeCase();
       }
       break;
@@ -96,13 +95,13 @@ void NestingGuard::readToken(const antlr4::Token& token) {
     default:
       break;
   }
-  lastTokenType = type;
+  lastTokenTypes = {type, lastTokenTypes[0], lastTokenTypes[1]};
 }
 
 // Prediction reads ahead of the parser. The levels it opens there are refused as if the parser
 // stood in them already: it may get there, and prediction recurses over them too.
 void NestingGuard::open(const antlr4::Token& token) {
-  const bool isSubquery = lastTokenType == CypherLexer::EXISTS && token.getType() == openBrace;
+  const bool isSubquery = lastTokenTypes[0] == CypherLexer::EXISTS && token.getType() == openBrace;
   const std::uintptr_t depth = openings.empty() ? 0 : openings.back().depth;
   openings.push_back({token.getStartIndex(), token.getType(),
                       depth + (isSubquery ? subquerySize : levelSize),
@@ -111,9 +110,22 @@ void NestingGuard::open(const antlr4::Token& token) {
   refuseBelow(flatEnd + 12 * sizeAhead() / 5);
 }
 
-// Between the entries of a map. Elsewhere an expression may begin after a comma.
-bool NestingGuard::isKeyExpected() const {
-  return lastTokenType == comma && !openings.empty() && openings.back().isMap;
+// Of a property, of a label, or of an entry of a map. An expression may begin after the comma in a
+// list and after the colon in a map.
+bool NestingGuard::isNameExpected() const {
+  const std::size_t beforeKey = lastTokenTypes[2];
+  switch (lastTokenTypes[0]) {
+    case dot:
+    case openBrace:
+      return true;
+    case comma:
+      return !openings.empty() && openings.back().isMap;
+    case colon:
+      return openings.empty() || openings.back().tokenType != openBrace ||
+             (beforeKey != openBrace && beforeKey != comma);
+    default:
+      return false;
+  }
 }
 
 // Brackets need not match: neither the parser nor prediction goes on after one that does not.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -48,7 +49,7 @@ class NestingGuard {
     }
   }
   void open(const antlr4::Token& token);
-  [[nodiscard]] bool isKeyExpected() const;
+  [[nodiscard]] bool isNameExpected() const;
   void closeBracket();
   void closeCase();
   [[nodiscard]] std::uintptr_t sizeAhead() const;
@@ -59,7 +60,8 @@ class NestingGuard {
   std::uintptr_t deepestError;  // and an error is looked into.
   antlr4::Parser* parser = nullptr;
   std::vector<Opening> openings;  // that are still open, in the order of the text
-  std::size_t lastTokenType = 0;  // white space and comments aside
+  // The types of the last three tokens, the last one first, white space and comments aside.
+  std::array<std::size_t, 3> lastTokenTypes{};
 };
 
 }  // namespace vorn

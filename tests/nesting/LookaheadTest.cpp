@@ -54,6 +54,11 @@ TEST(LookingAhead, CountsAMapWithAKeyNamedCaseOnce) {
   }
 }
 
+TEST(LookingAhead, DoesNotTakeALabelNamedCaseForACase) {
+  expectAccepted(repeated("a:CASE:CASE + ", 300) + "a");
+  expectAccepted("{k: " + repeated("a:CASE + ", 300) + "a}");
+}
+
 TEST(LookingAhead, ForgetsALabelNamedCaseWithItsBracket) {
   expectAccepted(repeated("(a:CASE) + ", 300) + "a");
 }

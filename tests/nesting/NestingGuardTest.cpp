@@ -47,6 +47,7 @@ class GuardedExpression {
   explicit GuardedExpression(const char* text) : input(text) {}
 
   void parse() { parser.oC_Expression(); }
+  void lookAhead() { tokens.fill(); }
 
  private:
   vorn::NestingGuard guard;
@@ -90,6 +91,45 @@ TEST(NestingGuard, RefusesToBeginWithoutRoom) {
     below(size - 36 * kibibyte, [] { EXPECT_NO_THROW(vorn::NestingGuard()); });
     below(size - 31 * kibibyte, [] { EXPECT_THROW(vorn::NestingGuard(), std::length_error); });
   });
+}
+
+// How many rules the guard takes one level of the text for.
+void expectRulesAhead(const std::string& level, std::size_t rules) {
+  constexpr std::size_t fitting = 6600;  // in all, of 64 bytes each
+  const std::size_t levels = fitting / rules;
+  const auto refusesLevels = [&](std::size_t count) {
+    std::string text;
+    for (std::size_t i = 0; i < count; ++i) {
+      text += level;
+    }
+    GuardedExpression expression(text.c_str());
+    return refuses([&] { expression.lookAhead(); });
+  };
+  onStackOf(mebibyte, [&] {
+    EXPECT_FALSE(refusesLevels(levels - levels / 20)) << level;
+    EXPECT_TRUE(refusesLevels(levels + levels / 20)) << level;
+  });
+}
+
+TEST(GuardedLexer, CountsEachLevelAhead) {
+  expectRulesAhead("(", 18);
+  expectRulesAhead("[x IN ", 18);
+  expectRulesAhead("CASE WHEN ", 18);
+  expectRulesAhead("EXISTS { RETURN ", 24);
+}
+
+TEST(GuardedLexer, TakesACaseForALevelWhereAnExpressionMayBegin) {
+  expectRulesAhead("[a, CASE ", 18 + 18);
+  expectRulesAhead("[x IN a:B | CASE ", 18 + 18);
+  expectRulesAhead("{a: CASE ", 18 + 18);
+  expectRulesAhead("{a: b:C, d: CASE ", 18 + 18);
+  expectRulesAhead("EXISTS { RETURN a, CASE ", 24 + 18);
+}
+
+TEST(GuardedLexer, TakesACaseForANameWhereOneIsExpected) {
+  expectRulesAhead("(a.case, b:CASE, ", 18);
+  expectRulesAhead("{case: a:CASE, case: ", 18);
+  expectRulesAhead("EXISTS { RETURN a:CASE, ", 24);
 }
 
 TEST(GuardedParser, AsksTheGuardAtEachRule) {
