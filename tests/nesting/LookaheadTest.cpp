@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "Repeated.h"
 #include "StackedThread.h"
 #include "support/Text.h"
 #include "vorn/vorn.h"
@@ -13,14 +14,6 @@
 namespace {
 
 using vorn::WideString;
-
-std::string repeated(const std::string& text, std::size_t times) {
-  std::string all;
-  for (std::size_t i = 0; i < times; ++i) {
-    all += text;
-  }
-  return all;
-}
 
 void expectAccepted(const std::string& inner) {
   const WideString text = wide("[x IN " + inner + "]");

@@ -8,9 +8,11 @@
 #include <functional>
 #include <memory_resource>
 #include <stdexcept>
+#include <string>
 
 #include "GuardedRecognisers.h"
 #include "NestingGuard.h"
+#include "Repeated.h"
 #include "StackedThread.h"
 
 namespace {
@@ -44,7 +46,7 @@ bool refusesAnError(const vorn::NestingGuard& guard) {
 
 class GuardedExpression {
  public:
-  explicit GuardedExpression(const char* text) : input(text) {}
+  explicit GuardedExpression(const std::string& text) : input(text) {}
 
   void parse() { parser.oC_Expression(); }
   void lookAhead() { tokens.fill(); }
@@ -98,11 +100,7 @@ void expectRulesAhead(const std::string& level, std::size_t rules) {
   constexpr std::size_t fitting = 6600;  // in all, of 64 bytes each
   const std::size_t levels = fitting / rules;
   const auto refusesLevels = [&](std::size_t count) {
-    std::string text;
-    for (std::size_t i = 0; i < count; ++i) {
-      text += level;
-    }
-    GuardedExpression expression(text.c_str());
+    GuardedExpression expression(repeated(level, count));
     return refuses([&] { expression.lookAhead(); });
   };
   onStackOf(mebibyte, [&] {

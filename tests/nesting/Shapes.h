@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "Repeated.h"
 #include "support/Text.h"
 #include "vorn/vorn.h"
 
@@ -17,15 +18,7 @@ struct Shape {
   const char* after = "";
 
   [[nodiscard]] vorn::WideString nested(std::size_t levels) const {
-    std::string text = before;
-    for (std::size_t i = 0; i < levels; ++i) {
-      text += open;
-    }
-    text += core;
-    for (std::size_t i = 0; i < levels; ++i) {
-      text += close;
-    }
-    return wide(text + after);
+    return wide(before + repeated(open, levels) + core + repeated(close, levels) + after);
   }
 
   [[nodiscard]] vorn::WideString unbalanced(std::size_t levels) const {
