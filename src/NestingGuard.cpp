@@ -19,8 +19,8 @@ namespace {
 constexpr std::uintptr_t flatReserve = std::uintptr_t{32} * 1024;
 
 // What a level of nesting takes of the parser's own recursion: 64 bytes for each rule from one
-// bracket to the next, which are 17 at most, and 23 in a subquery. The 26 where a branch of a UNION
-// merges find room in what prediction leaves of its reserve.
+// bracket to the next, which are 17 in most, and 23 in a subquery. The 19 of `[x IN a = a IN [` and
+// the 26 where a branch of a UNION merges find room in what prediction leaves of its reserve.
 constexpr std::uintptr_t subquerySize = std::uintptr_t{24} * 64;
 constexpr std::uintptr_t levelSize = std::uintptr_t{18} * 64;
 
@@ -37,13 +37,6 @@ constexpr std::size_t comma = CypherLexer::T__1;
 constexpr std::size_t colon = CypherLexer::T__9;
 constexpr std::size_t bar = CypherLexer::T__10;
 constexpr std::size_t dot = CypherLexer::T__22;
-
-// Reserved words serve as names of labels, relationship types and properties too. No CASE ends
-// after these.
-bool isNameAfter(std::size_t tokenType) {
-  return tokenType == dot || tokenType == openBrace || tokenType == comma || tokenType == colon ||
-         tokenType == bar;
-}
 
 }  // namespace
 
@@ -68,17 +61,13 @@ void NestingGuard::refuse() {
 }
 
 void NestingGuard::readToken(const antlr4::Token& token) {
-  const std::size_t type = token.getType();
-  switch (type) {
+  const std::size_t role = roleOf(token.getType());
+  switch (role) {
     case openParenthesis:
     case openSquare:
     case openBrace:
-      open(token);
-      break;
     case CypherLexer::CASE:
-      if (!isNameExpected()) {
-        open(token);
-      }
+      open(token);
       break;
     case closeParenthesis:
     case closeSquare:
@@ -86,45 +75,70 @@ void NestingGuard::readToken(const antlr4::Token& token) {
       closeBracket();
       break;
     case CypherLexer::END:
-      if (!isNameAfter(lastTokenTypes[0])) {
-        closeCase();
-      }
+      closeCase();
+      break;
+    case colon:
+      readColon();
       break;
     case CypherLexer::SP:
       return;
     default:
       break;
   }
-  lastTokenTypes = {type, lastTokenTypes[0], lastTokenTypes[1]};
+  last = {role, last[0], last[1]};
+}
+
+// Reserved words serve as names of labels, relationship types and properties too.
+std::size_t NestingGuard::roleOf(std::size_t tokenType) const {
+  const bool isWordOfALevel = tokenType == CypherLexer::CASE || tokenType == CypherLexer::END ||
+                              tokenType == CypherLexer::EXISTS;
+  return isWordOfALevel && isNameExpected() ? std::size_t{CypherLexer::UnescapedSymbolicName}
+                                            : tokenType;
+}
+
+// An expression may begin after a comma or a bar in a list, and after the colon in a map.
+bool NestingGuard::isNameExpected() const {
+  switch (last[0]) {
+    case dot:
+    case openBrace:
+      return true;
+    case comma:
+      return isDirectlyIn(Content::MapEntries);
+    case bar:
+      return isDirectlyIn(Content::RelationshipTypes);
+    case colon: {
+      // An empty map before the colon is no key.
+      const bool isAfterKey = last[1] != closeBrace && (last[2] == openBrace || last[2] == comma);
+      return !isAfterKey || !isDirectlyIn(Content::MapEntries);
+    }
+    default:
+      return false;
+  }
+}
+
+bool NestingGuard::isDirectlyIn(Content content) const {
+  return !openings.empty() && openings.back().content == content;
 }
 
 // Prediction reads ahead of the parser. The levels it opens there are refused as if the parser
 // stood in them already: it may get there, and prediction recurses over them too.
 void NestingGuard::open(const antlr4::Token& token) {
-  const bool isSubquery = lastTokenTypes[0] == CypherLexer::EXISTS && token.getType() == openBrace;
+  const bool isSubquery = last[0] == CypherLexer::EXISTS && token.getType() == openBrace;
+  const bool isMap = token.getType() == openBrace && !isSubquery;
   const std::uintptr_t depth = openings.empty() ? 0 : openings.back().depth;
   openings.push_back({token.getStartIndex(), token.getType(),
                       depth + (isSubquery ? subquerySize : levelSize),
-                      token.getType() == openBrace && !isSubquery});
+                      isMap ? Content::MapEntries : Content::Other});
   // The parser may get there, and prediction, which then recurses too, takes 1.4 times as much.
   refuseBelow(flatEnd + 12 * sizeAhead() / 5);
 }
 
-// Of a property, of a label, or of an entry of a map. An expression may begin after the comma in a
-// list and after the colon in a map.
-bool NestingGuard::isNameExpected() const {
-  const std::size_t beforeKey = lastTokenTypes[2];
-  switch (lastTokenTypes[0]) {
-    case dot:
-    case openBrace:
-      return true;
-    case comma:
-      return !openings.empty() && openings.back().isMap;
-    case colon:
-      return openings.empty() || openings.back().tokenType != openBrace ||
-             (beforeKey != openBrace && beforeKey != comma);
-    default:
-      return false;
+// A colon right behind the bracket, or behind one name there, begins the types of a relationship,
+// or the labels of a list's first item. But such a list has no bar.
+void NestingGuard::readColon() {
+  const bool isFirst = last[0] == openSquare || (last[1] == openSquare && last[0] != closeSquare);
+  if (isFirst && !openings.empty()) {
+    openings.back().content = Content::RelationshipTypes;
   }
 }
 

@@ -35,11 +35,13 @@ class NestingGuard {
   void readToken(const antlr4::Token& token);
 
  private:
+  enum class Content { RelationshipTypes, MapEntries, Other };
+
   struct Opening {
     std::size_t position;  // of its first code point in the text
     std::size_t tokenType;
     std::uintptr_t depth;  // the stack that the parser takes for all levels up to this one
-    bool isMap;
+    Content content;
   };
 
   [[noreturn]] static void refuse();
@@ -48,8 +50,11 @@ class NestingGuard {
       refuse();
     }
   }
-  void open(const antlr4::Token& token);
+  [[nodiscard]] std::size_t roleOf(std::size_t tokenType) const;
   [[nodiscard]] bool isNameExpected() const;
+  [[nodiscard]] bool isDirectlyIn(Content content) const;
+  void open(const antlr4::Token& token);
+  void readColon();
   void closeBracket();
   void closeCase();
   [[nodiscard]] std::uintptr_t sizeAhead() const;
@@ -60,8 +65,8 @@ class NestingGuard {
   std::uintptr_t deepestError;  // and an error is looked into.
   antlr4::Parser* parser = nullptr;
   std::vector<Opening> openings;  // that are still open, in the order of the text
-  // The types of the last three tokens, the last one first, white space and comments aside.
-  std::array<std::size_t, 3> lastTokenTypes{};
+  // What the last three tokens are, the last one first, white space and comments aside.
+  std::array<std::size_t, 3> last{};
 };
 
 }  // namespace vorn

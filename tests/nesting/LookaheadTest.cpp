@@ -52,6 +52,19 @@ TEST(LookingAhead, DoesNotTakeALabelNamedCaseForACase) {
   expectAccepted("{k: " + repeated("a:CASE + ", 300) + "a}");
 }
 
+TEST(LookingAhead, DoesNotTakeATypeNamedCaseForACase) {
+  expectAccepted("()-[:A" + repeated("|CASE", 300) + "]-()");
+  expectAccepted("()-[r:A" + repeated(" | CASE", 300) + "]-()");
+}
+
+TEST(LookingAhead, KnowsAMapBehindALabelNamedExists) {
+  expectAccepted("(:EXISTS {a: 1" + repeated(", case: 1", 300) + "})--()");
+}
+
+TEST(LookingAhead, KnowsAMapWhoseEntryIsALabelledMap) {
+  expectAccepted("{a: {}:CASE" + repeated(", case: 1", 300) + "}");
+}
+
 TEST(LookingAhead, ForgetsALabelNamedCaseWithItsBracket) {
   expectAccepted(repeated("(a:CASE) + ", 300) + "a");
 }

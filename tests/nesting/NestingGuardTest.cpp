@@ -119,6 +119,7 @@ TEST(GuardedLexer, CountsEachLevelAhead) {
 TEST(GuardedLexer, TakesACaseForALevelWhereAnExpressionMayBegin) {
   expectRulesAhead("[a, CASE ", 18 + 18);
   expectRulesAhead("[x IN a:B | CASE ", 18 + 18);
+  expectRulesAhead("[x IN []:B | CASE ", 18 + 18);
   expectRulesAhead("{a: CASE ", 18 + 18);
   expectRulesAhead("{a: b:C, d: CASE ", 18 + 18);
   expectRulesAhead("EXISTS { RETURN a, CASE ", 24 + 18);
@@ -127,7 +128,26 @@ TEST(GuardedLexer, TakesACaseForALevelWhereAnExpressionMayBegin) {
 TEST(GuardedLexer, TakesACaseForANameWhereOneIsExpected) {
   expectRulesAhead("(a.case, b:CASE, ", 18);
   expectRulesAhead("{case: a:CASE, case: ", 18);
-  expectRulesAhead("EXISTS { RETURN a:CASE, ", 24);
+  expectRulesAhead("{a: {}:CASE + ", 18);
+  expectRulesAhead("EXISTS { RETURN a, b:CASE, ", 24);
+  expectRulesAhead("()-[:A|CASE {b: ", 18 + 18);
+  expectRulesAhead("()-[r:A|CASE {b: ", 18 + 18);
+}
+
+TEST(GuardedLexer, TakesExistsForASubqueryWhereAnExpressionMayBegin) {
+  expectRulesAhead("[x IN a | EXISTS { RETURN ", 18 + 24);
+  expectRulesAhead("{a: EXISTS { RETURN ", 18 + 24);
+}
+
+TEST(GuardedLexer, TakesExistsForANameWhereOneIsExpected) {
+  expectRulesAhead("(a:EXISTS {b: 1, case: ", 18 + 18);
+  expectRulesAhead("()-[:A|EXISTS {b: 1, case: ", 18 + 18);
+}
+
+TEST(GuardedLexer, ReadsOnBehindBracketsThatDoNotMatch) {
+  for (const char* text : {")", "[):", "(]:", "CASE )", "END"}) {
+    EXPECT_NO_THROW(GuardedExpression(text).lookAhead()) << text;
+  }
 }
 
 TEST(GuardedParser, AsksTheGuardAtEachRule) {
