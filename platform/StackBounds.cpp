@@ -60,7 +60,7 @@ StackBounds threadBounds() {
   return bounds;
 }
 
-// A signal handler may run on a stack of its own.
+// A signal handler may run on a stack of its own, which may lie within the thread's.
 StackBounds signalStackBounds() {
   stack_t stack{};
   if (sigaltstack(nullptr, &stack) != 0 || (stack.ss_flags & SS_ONSTACK) == 0) {
@@ -77,7 +77,8 @@ StackBounds currentBounds(std::uintptr_t position) {
   if (own.top == 0) {
     own = threadBounds();
   }
-  return own.hold(position) ? own : signalStackBounds();
+  const StackBounds signals = signalStackBounds();
+  return signals.hold(position) ? signals : own;
 }
 
 #endif

@@ -56,11 +56,10 @@ TEST(StackOfACoroutine, LeavesTheThreadsOwnStackAsItIs) {
   });
 }
 
-Answer answerOnSignalStack(std::size_t bytes, const WideString& text) {
-  std::vector<char> memory(bytes);
+Answer answerOnSignalStack(void* memory, std::size_t bytes, const WideString& text) {
   stack_t stack{};
-  stack.ss_sp = memory.data();
-  stack.ss_size = memory.size();
+  stack.ss_sp = memory;
+  stack.ss_size = bytes;
   stack_t oldStack{};
   sigaltstack(&stack, &oldStack);
   struct sigaction action {};
@@ -76,12 +75,24 @@ Answer answerOnSignalStack(std::size_t bytes, const WideString& text) {
   return contextAnswer;
 }
 
+Answer answerOnSignalStack(std::size_t bytes, const WideString& text) {
+  std::vector<char> memory(bytes);
+  return answerOnSignalStack(memory.data(), bytes, text);
+}
+
 TEST(StackOfASignalHandler, IsUsedInFull) {
   EXPECT_EQ(answerOnSignalStack(mebibyte, parentheses(250)), Answer::Right);
 }
 
 TEST(StackOfASignalHandler, IsNotOverrun) {
   EXPECT_EQ(answerOnSignalStack(128 * kibibyte, parentheses(20000)), Answer::TooDeep);
+}
+
+TEST(StackOfASignalHandler, IsNotOverrunWithinTheThreadsOwn) {
+  onStackOf(8 * mebibyte, [] {
+    constexpr std::size_t bytes = 128 * kibibyte;
+    EXPECT_EQ(answerOnSignalStack(alloca(bytes), bytes, parentheses(1000)), Answer::TooDeep);
+  });
 }
 
 Answer answerBelow(std::size_t usedBytes, const WideString& text) {
