@@ -32,8 +32,9 @@
 ///   250 levels of any bracket fit; with 8 MiB, 2,000. A wrong text may be refused in the same way
 ///   some levels earlier, since it takes stack to tell what is wrong. Where the platform cannot
 ///   tell how large the stack is (a coroutine's on Linux), 64 KiB are assumed, enough for a few
-///   levels. Less than 48 KiB may be refused whatever the text. Less than 20 KiB, on Windows
-///   32 KiB, may not suffice to throw that exception: the process then ends by an overflow.
+///   levels. There a coroutine must not have its stack inside that of a thread, whose size would
+///   be taken for its own. Less than 48 KiB may be refused whatever the text. Less than 20 KiB, on
+///   Windows 32 KiB, may not suffice to throw that exception: the process then ends by an overflow.
 /// - The tables by which the parser predicts are shared by the process. They grow with every new
 ///   shape of text up to a bound, and are then begun anew. A text that nests deeply can also take
 ///   time that grows faster than its length. So bound the length of what a stranger may send.
