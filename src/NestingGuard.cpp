@@ -24,6 +24,9 @@ constexpr std::uintptr_t flatReserve = std::uintptr_t{32} * 1024;
 constexpr std::uintptr_t subquerySize = std::uintptr_t{24} * 64;
 constexpr std::uintptr_t levelSize = std::uintptr_t{18} * 64;
 
+// A map of properties lies two rules from the bracket of its pattern.
+constexpr std::uintptr_t propertiesSize = std::uintptr_t{3} * 64;
+
 // The grammar's symbols for brackets have no names of their own.
 enum Bracket : std::size_t {
   openParenthesis = CypherLexer::T__5,
@@ -37,6 +40,11 @@ constexpr std::size_t comma = CypherLexer::T__1;
 constexpr std::size_t colon = CypherLexer::T__9;
 constexpr std::size_t bar = CypherLexer::T__10;
 constexpr std::size_t dot = CypherLexer::T__22;
+
+bool isName(std::size_t tokenType) {
+  return tokenType == CypherLexer::UnescapedSymbolicName ||
+         tokenType == CypherLexer::EscapedSymbolicName || tokenType == CypherLexer::HexLetter;
+}
 
 }  // namespace
 
@@ -123,11 +131,15 @@ bool NestingGuard::isDirectlyIn(Content content) const {
 // Prediction reads ahead of the parser. The levels it opens there are refused as if the parser
 // stood in them already: it may get there, and prediction recurses over them too.
 void NestingGuard::open(const antlr4::Token& token) {
-  const bool isSubquery = last[0] == CypherLexer::EXISTS && token.getType() == openBrace;
+  const bool isSubquery = token.getType() == openBrace && last[0] == CypherLexer::EXISTS;
   const bool isMap = token.getType() == openBrace && !isSubquery;
+  // No expression begins right behind a name.
+  const bool holdsProperties = isMap && isName(last[0]);
+  const std::uintptr_t size = isSubquery        ? subquerySize
+                              : holdsProperties ? propertiesSize
+                                                : levelSize;
   const std::uintptr_t depth = openings.empty() ? 0 : openings.back().depth;
-  openings.push_back({token.getStartIndex(), token.getType(),
-                      depth + (isSubquery ? subquerySize : levelSize),
+  openings.push_back({token.getStartIndex(), token.getType(), depth + size,
                       isMap ? Content::MapEntries : Content::Other});
   // The parser may get there, and prediction, which then recurses too, takes 1.4 times as much.
   refuseBelow(flatEnd + 12 * sizeAhead() / 5);

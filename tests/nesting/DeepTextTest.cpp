@@ -42,6 +42,12 @@ TEST(TextOfManyRulesForEachLevel, OfThePromisedLevelsFitsOneMebibyte) {
   onStackOf(mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
 }
 
+// Two brackets for each level, but the second one costs little.
+TEST(RelationshipsWithProperties, OfThePromisedLevelsFitOneMebibyte) {
+  const WideString text = relationshipProperties.nested(levelsInAMebibyte);
+  onStackOf(mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
+}
+
 // However close to its end the stack gets.
 TEST_P(NestedText, IsAnsweredOrRefusedAtEveryDepth) {
   const Shape& shape = GetParam();

@@ -116,6 +116,14 @@ TEST(GuardedLexer, CountsEachLevelAhead) {
   expectRulesAhead("EXISTS { RETURN ", 24);
 }
 
+TEST(GuardedLexer, TakesAMapBehindANameForProperties) {
+  expectRulesAhead("(ab {k: ", 18 + 3);
+  expectRulesAhead("(a {k: ", 18 + 3);
+  expectRulesAhead("(:`A` {k: ", 18 + 3);
+  expectRulesAhead("({k: ", 18 + 18);
+  expectRulesAhead("[x IN {k: ", 18 + 18);
+}
+
 TEST(GuardedLexer, TakesACaseForALevelWhereAnExpressionMayBegin) {
   expectRulesAhead("[a, CASE ", 18 + 18);
   expectRulesAhead("[x IN a:B | CASE ", 18 + 18);
@@ -130,8 +138,8 @@ TEST(GuardedLexer, TakesACaseForANameWhereOneIsExpected) {
   expectRulesAhead("{case: a:CASE, case: ", 18);
   expectRulesAhead("{a: {}:CASE + ", 18);
   expectRulesAhead("EXISTS { RETURN a, b:CASE, ", 24);
-  expectRulesAhead("()-[:A|CASE {b: ", 18 + 18);
-  expectRulesAhead("()-[r:A|CASE {b: ", 18 + 18);
+  expectRulesAhead("()-[:A|CASE {b: ", 18 + 3);
+  expectRulesAhead("()-[r:A|CASE {b: ", 18 + 3);
 }
 
 TEST(GuardedLexer, TakesExistsForASubqueryWhereAnExpressionMayBegin) {
@@ -140,8 +148,8 @@ TEST(GuardedLexer, TakesExistsForASubqueryWhereAnExpressionMayBegin) {
 }
 
 TEST(GuardedLexer, TakesExistsForANameWhereOneIsExpected) {
-  expectRulesAhead("(a:EXISTS {b: 1, case: ", 18 + 18);
-  expectRulesAhead("()-[:A|EXISTS {b: 1, case: ", 18 + 18);
+  expectRulesAhead("(a:EXISTS {b: 1, case: ", 18 + 3);
+  expectRulesAhead("()-[:A|EXISTS {b: 1, case: ", 18 + 3);
 }
 
 TEST(GuardedLexer, ReadsOnBehindBracketsThatDoNotMatch) {

@@ -35,6 +35,8 @@ struct Shape {
 constexpr Shape mostRules{
     "MostRules", "EXISTS { RETURN 1 UNION MERGE (a) ON CREATE SET a.b = a = a IN ", "}", "a"};
 
+constexpr Shape relationshipProperties{"RelationshipProperties", "()-[a {b: ", "}]-()", "1"};
+
 /// The parser knows from a token or two which of these begins.
 inline std::vector<Shape> plainShapes() {
   return {
@@ -67,7 +69,7 @@ inline std::vector<Shape> lookaheadShapes() {
       {"Quantifiers", "any(x IN ", ")", "a"},
       {"ComprehensionsOfCalls", "[x IN f(", ")]", "a"},
       {"ComprehensionOfParentheses", "(", ")", "a", "[x IN ", "]"},
-      {"RelationshipProperties", "()-[a {b: ", "}]-()", "1"},
+      relationshipProperties,
       {"Queries", "EXISTS { MATCH (a) WHERE ", " RETURN 1}", "a"},
       {"QueriesAroundAComprehension", "EXISTS { MATCH (a) WHERE ", " RETURN 1}", "[x IN a]"},
       {"Returns", "EXISTS { RETURN ", "}", "[x IN a]"},
