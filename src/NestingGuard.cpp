@@ -129,7 +129,7 @@ bool NestingGuard::isDirectlyIn(Content content) const {
 }
 
 // Prediction reads ahead of the parser. The levels it opens there are refused as if the parser
-// stood in them already: it may get there, and prediction recurses over them too.
+// stood in them already.
 void NestingGuard::open(const antlr4::Token& token) {
   const bool isSubquery = token.getType() == openBrace && last[0] == CypherLexer::EXISTS;
   const bool isMap = token.getType() == openBrace && !isSubquery;
@@ -141,8 +141,9 @@ void NestingGuard::open(const antlr4::Token& token) {
   const std::uintptr_t depth = openings.empty() ? 0 : openings.back().depth;
   openings.push_back({token.getStartIndex(), token.getType(), depth + size,
                       isMap ? Content::MapEntries : Content::Other});
-  // The parser may get there, and prediction, which then recurses too, takes 1.4 times as much.
-  refuseBelow(flatEnd + 12 * sizeAhead() / 5);
+  // It may get there, and takes some 100 bytes for a rule on Windows. Prediction takes half as much
+  // at most: after an ambiguity it lets go of its contexts by recursion.
+  refuseBelow(flatEnd + 5 * sizeAhead() / 3);
 }
 
 // A colon right behind the bracket, or behind one name there, begins the types of a relationship,

@@ -15,8 +15,8 @@ class Token;
 namespace vorn {
 
 /// Refuses a text that nests too deeply for the stack, by std::length_error and before the stack
-/// runs out. The parser recurses with each level of nesting, and so does prediction, over the whole
-/// chain of open rules and over every level that it looks ahead.
+/// runs out. The parser recurses with each level of nesting. So does prediction, when it lets go of
+/// levels that it has looked ahead, and so does the search for what may follow an error.
 class NestingGuard {
  public:
   /// Takes the stack from here on as the one that the parse may use.

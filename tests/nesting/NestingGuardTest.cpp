@@ -97,7 +97,7 @@ TEST(NestingGuard, RefusesToBeginWithoutRoom) {
 
 // How many rules the guard takes one level of the text for.
 void expectRulesAhead(const std::string& level, std::size_t rules) {
-  constexpr std::size_t fitting = 6600;  // in all, of 64 bytes each
+  constexpr std::size_t fitting = 9500;  // in all, of 64 bytes each
   const std::size_t levels = fitting / rules;
   const auto refusesLevels = [&](std::size_t count) {
     GuardedExpression expression(repeated(level, count));
