@@ -58,6 +58,10 @@ const std::vector<LargeText>& ambiguousTexts() {
        [](std::size_t size) { return query(u"RETURN (a)" + repeated(u"-[b]-(a)", size)); }},
       {"RETURN [x IN [x IN ...",
        [](std::size_t size) { return query(u"RETURN " + nested(u"[x IN ", u"1", u"]", size)); }},
+      {"RETURN ({a: ({a: ...",
+       [](std::size_t size) {
+         return query(u"RETURN " + nested(u"({a: ", u"1", u"})-[b]-(c)", size));
+       }},
       {"RETURN EXISTS { EXISTS { ...",
        [](std::size_t size) {
          return query(u"RETURN " + nested(u"EXISTS { RETURN ", u"1", u" }", size));
