@@ -25,27 +25,28 @@ WideString renamed(const WideString& expression) {
   return vorn::ReplaceVariableNamesInPropertyFilterOCExpression(expression, {});
 }
 
+void expectToFit(std::size_t stack, std::size_t levels, const Shape& shape) {
+  const WideString text = shape.nested(levels);
+  onStackOf(stack, [&] { EXPECT_EQ(renamed(text), text); });
+}
+
 class NestedText : public testing::TestWithParam<Shape> {};
 
 TEST_P(NestedText, OfThePromisedLevelsFitsOneMebibyte) {
-  const WideString text = GetParam().nested(levelsInAMebibyte);
-  onStackOf(mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
+  expectToFit(mebibyte, levelsInAMebibyte, GetParam());
 }
 
 TEST_P(NestedText, OfEightTimesAsManyLevelsFitsEightMebibytes) {
-  const WideString text = GetParam().nested(8 * levelsInAMebibyte);
-  onStackOf(8 * mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
+  expectToFit(8 * mebibyte, 8 * levelsInAMebibyte, GetParam());
 }
 
 TEST(TextOfManyRulesForEachLevel, OfThePromisedLevelsFitsOneMebibyte) {
-  const WideString text = mostRules.nested(levelsInAMebibyte);
-  onStackOf(mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
+  expectToFit(mebibyte, levelsInAMebibyte, mostRules);
 }
 
-// Two brackets for each level, but the second one costs little.
-TEST(RelationshipsWithProperties, OfThePromisedLevelsFitOneMebibyte) {
-  const WideString text = relationshipProperties.nested(levelsInAMebibyte);
-  onStackOf(mebibyte, [&] { EXPECT_EQ(renamed(text), text); });
+TEST(TextOfTwoBracketsForEachLevel, OfThePromisedLevelsFitsOneMebibyte) {
+  expectToFit(mebibyte, levelsInAMebibyte, relationshipProperties);
+  expectToFit(mebibyte, levelsInAMebibyte, {"SubscriptsOfCalls", "a[f(", ")]", "1"});
 }
 
 // However close to its end the stack gets.
@@ -99,8 +100,7 @@ INSTANTIATE_TEST_SUITE_P(Plain, NestedText, testing::ValuesIn(plainShapes()),
 class TextWithLookahead : public testing::TestWithParam<Shape> {};
 
 TEST_P(TextWithLookahead, OfThirtyLevelsFitsAQuarterOfAMebibyte) {
-  const WideString text = GetParam().nested(30);
-  onStackOf(256 * kibibyte, [&] { EXPECT_EQ(renamed(text), text); });
+  expectToFit(256 * kibibyte, 30, GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(Ahead, TextWithLookahead, testing::ValuesIn(lookaheadShapes()),
