@@ -137,6 +137,7 @@ TEST(GuardedLexer, TakesACaseForANameWhereOneIsExpected) {
   expectRulesAhead("(a.case, b:CASE, ", 18);
   expectRulesAhead("{case: a:CASE, case: ", 18);
   expectRulesAhead("{a: {}:CASE + ", 18);
+  expectRulesAhead("EXISTS { RETURN a:CASE, ", 24);
   expectRulesAhead("EXISTS { RETURN a, b:CASE, ", 24);
   expectRulesAhead("()-[:A|CASE {b: ", 18 + 3);
   expectRulesAhead("()-[r:A|CASE {b: ", 18 + 3);
