@@ -1,9 +1,11 @@
 #!/bin/sh
-# Generates lexer, parser and listeners from grammar/Cypher.g4 with the ANTLR tool.
+# Generates lexer, parser and listeners from grammar/Cypher.g4 with the ANTLR tool, and compiles the
+# grammar to the library's own lexer and parser.
 #
 #   tools/generate-recognisers.sh                     rewrite grammar/generated/, by release 4.10
 #   tools/generate-recognisers.sh --check             fail if grammar/generated/ is not what that writes
-#   tools/generate-recognisers.sh --into FOLDER JAR   write into another folder, by another tool
+#   tools/generate-recognisers.sh --into FOLDER JAR   write what the tool writes into another folder, by
+#                                                     another tool
 set -eu
 
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -35,10 +37,16 @@ java -jar "$jar" -Dlanguage=Cpp -package vorn -listener -no-visitor -encoding UT
 # Only the C++ sources are kept: the other files serve the tool's own IDE plug-ins.
 rm "$work"/*.interp "$work"/*.tokens
 
+if [ "${1-}" != --into ]; then
+    mkdir "$work/compiled"
+    python3 -B "$root/grammar/compile_grammar.py" "$work/compiled" || fail "the grammar cannot be compiled."
+fi
+
 if [ "${1-}" = --check ]; then
     diff -r "$work" "$generated" >/dev/null ||
         fail "grammar/generated/ differs from what the tool writes; run make grammar."
 else
     mkdir -p "$generated"
+    rm -rf "$generated/compiled"
     mv "$work"/* "$generated"
 fi

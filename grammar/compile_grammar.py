@@ -1,0 +1,574 @@
+#!/usr/bin/python3
+"""Compiles Cypher.g4 to C++: the tables of the lexer, one function for each parser rule.
+
+    grammar/compile_grammar.py FOLDER   write the sources into the folder
+
+Stops where alternatives cannot be told apart by three tokens, unless the place is named in TRIALS.
+"""
+
+import sys
+from pathlib import Path
+from typing import Iterator
+
+from cypher_grammar import Grammar
+from lexer_automaton import LexerAutomaton
+from lookahead import END_OF_TEXT, Decision, Lookahead, Network
+from rule_forms import names_in, rules_as_written, rules_to_compile
+
+STARTS = ("oC_Cypher", "oC_Expression")
+
+# Decisions where the alternatives are tried in their order. The first that matches here is taken, so
+# each needs the reason why the text behind it can never ask for a later one.
+TRIALS = {
+    # A regular query goes on behind its CALL with clauses and takes them all. Behind a standalone call
+    # stands the end of the text, so none of these clauses could be read.
+    ("oC_Query", 0),
+    # Only a call with arguments goes on with a parenthesis.
+    ("oC_StandaloneCall", 0),
+    # What may stand behind an operand may stand behind an atom. An earlier alternative takes as much of
+    # the text as a later one, or more operands of it: behind `[`, `(` and a quantifier's name each
+    # alternative ends with the same closing bracket, and a pattern takes `(a)` with operators and
+    # operands behind it. Behind a name with dots only a function goes on with a parenthesis.
+    ("oC_Atom", 0),
+    # The longest pattern: a link that is left out would have to be read as operators and operands, and
+    # what may stand behind these may stand behind the pattern.
+    ("oC_RelationshipsPattern", 0),
+}
+
+# The rules whose nodes some analysis asks for. None matches nothing, so nesting shows in the spans.
+TREE_RULES = (
+    "oC_Union",
+    "oC_Unwind",
+    "oC_With",
+    "oC_ProjectionItems",
+    "oC_ProjectionItem",
+    "oC_PatternPart",
+    "oC_NodePattern",
+    "oC_RelationshipDetail",
+    "oC_LabelName",
+    "oC_Expression",
+    "oC_PropertyOrLabelsExpression",
+    "oC_Atom",
+    "oC_ListComprehension",
+    "oC_PatternComprehension",
+    "oC_Quantifier",
+    "oC_PatternPredicate",
+    "oC_ExistentialSubquery",
+    "oC_Variable",
+    "oC_PropertyKeyName",
+)
+
+# Every recursion of the rules passes one of these, which look at the stack.
+STACK_CHECKS = ("oC_Expression", "oC_PatternElement", "oC_ExistentialSubquery")
+
+HEADER = "// Written by grammar/compile_grammar.py from grammar/Cypher.g4; not to be edited.\n"
+WIDTH = 100
+FEW = 4  # tokens that are compared one by one
+
+
+def fail(message: str) -> None:
+    raise SystemExit(f"compile_grammar.py: {message}")
+
+
+def filled(items: list, indent: str = "    ") -> str:
+    lines = [indent]
+    for item in items:
+        if len(lines[-1]) + len(item) + 2 > WIDTH:
+            lines.append(indent)
+        lines[-1] += ("" if lines[-1] == indent else " ") + item + ","
+    return "\n".join(lines)
+
+
+def array(declaration: str, values: list) -> str:
+    return f"{declaration} = {{\n{filled([str(value) for value in values])}\n}};\n"
+
+
+class LexerTables:
+    def __init__(self, automaton: LexerAutomaton) -> None:
+        self._automaton = automaton
+        self._width = automaton.class_count
+        if len(automaton.accepts) * self._width > 0xFFFF or self._width > 0xFF:
+            fail("the automaton of the lexer does not fit its tables.")
+        self._pages, self._page_of = self._divide()
+
+    def _divide(self) -> tuple:
+        """The classes of 256 code points each, and which of these pages stands where."""
+        by_code_point = [number for first, last, number in self._automaton.classes for _ in range(first, last + 1)]
+        known = {}
+        page_of = []
+        for first in range(0, len(by_code_point), 256):
+            page = tuple(by_code_point[first : first + 256])
+            page_of.append(known.setdefault(page, len(known)))
+        return list(known), page_of
+
+    def header(self) -> str:
+        return f"""{HEADER}#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace vorn {{
+
+/// The automaton of the lexer. A state is the place of its row in `transitions`, which has a column
+/// for each class of characters. No character is of class 0: there stands the type of the token that
+/// ends in the state, or 0.
+struct LexerTables {{
+  static constexpr std::size_t classes = {self._width};
+  static constexpr std::uint16_t dead = 0;
+  static constexpr std::uint16_t start = classes;
+
+  static const std::array<std::uint16_t, {len(self._automaton.accepts) * self._width}> transitions;
+  /// By state, divided by `classes`: the type of the token that ends there where the text ends.
+  static const std::array<std::uint8_t, {len(self._automaton.accepts)}> typesAtEnd;
+  /// By code point, divided by 256: the page of its class.
+  static const std::array<std::uint8_t, {len(self._page_of)}> pageOf;
+  static const std::array<std::array<std::uint8_t, 256>, {len(self._pages)}> pages;
+
+  /// The type of the token that ends in a state, or 0.
+  static std::uint8_t typeOf(std::uint16_t state) {{
+    return static_cast<std::uint8_t>(transitions[state]);
+  }}
+  static std::uint8_t typeAtEnd(std::uint16_t state) {{ return typesAtEnd[state / classes]; }}
+}};
+
+}}  // namespace vorn
+"""
+
+    def source(self) -> str:
+        automaton = self._automaton
+        states = len(automaton.accepts)
+        targets = [
+            one
+            for row, accepted in zip(automaton.transitions, automaton.accepts)
+            for one in (accepted, *(target * self._width for target in row[1:]))
+        ]
+        pages = "\n".join("    {{\n" + filled([str(one) for one in page], "        ") + "\n    }}," for page in self._pages)
+        parts = [
+            array(f"const std::array<std::uint16_t, {len(targets)}> LexerTables::transitions", targets),
+            array(f"const std::array<std::uint8_t, {states}> LexerTables::typesAtEnd", automaton.accepts_at_end),
+            array(f"const std::array<std::uint8_t, {len(self._page_of)}> LexerTables::pageOf", self._page_of),
+            f"const std::array<std::array<std::uint8_t, 256>, {len(self._pages)}> LexerTables::pages = {{{{\n{pages}\n}}}};\n",
+        ]
+        return f'{HEADER}#include "LexerTables.h"\n\nnamespace vorn {{\n\n' + "\n".join(parts) + "\n}  // namespace vorn\n"
+
+
+class RuleFunctions:
+    """The C++ of the parser rules."""
+
+    def __init__(self, grammar: Grammar) -> None:
+        self._rules = rules_to_compile(grammar, STARTS)
+        self._names = {number: name for name, number in grammar.token_types.items()} | {0: "the end"}
+        network = Network(self._rules, STARTS)
+        lookahead = Lookahead(network)
+        self._decisions = {(one.rule, one.ordinal): one for one in network.decisions}
+        self._choices = {place: lookahead.choices(one) for place, one in self._decisions.items()}
+        self._sets = {}
+        self._functions = []
+        self._check_trials()
+        self._check_recursion()
+
+    def _check_trials(self) -> None:
+        undecided = set()
+        for place, choices in self._choices.items():
+            for tokens, alternatives in self._undecided(choices):
+                undecided.add(place)
+                if place not in TRIALS:
+                    ahead = " ".join("{" + ", ".join(self._names[one] for one in sorted(some)) + "}" for some in tokens)
+                    fail(f"decision {place[1]} of {place[0]}: alternatives {alternatives} both go on with {ahead}.")
+        for rule, ordinal in TRIALS - undecided:
+            fail(f"decision {ordinal} of {rule} needs no trial.")
+
+    def _undecided(self, choices: list, before: tuple = ()) -> Iterator[tuple]:
+        for tokens, outcome in choices:
+            if isinstance(outcome, list):
+                yield from self._undecided(outcome, (*before, tokens))
+            elif len(outcome) > 1:
+                yield (*before, tokens), outcome
+
+    def _check_recursion(self) -> None:
+        done = set(STACK_CHECKS)
+
+        def visit(name: str, path: tuple) -> None:
+            if name in path:
+                fail(f"the recursion {' '.join((*path, name))} passes no check of the stack.")
+            if name not in done:
+                for called in self._called(name):
+                    visit(called, (*path, name))
+                done.add(name)
+
+        for name in self._rules:
+            visit(name, ())
+
+    def _called(self, name: str) -> list:
+        """The rules that a rule calls. A call of itself at its very end becomes a loop."""
+        called = names_in(self._rules[name])
+        loops = name not in names_in_front(self._rules[name])
+        return [one for one in called if not (loops and one == name)]
+
+    def source(self) -> str:
+        bodies = [self._function(name) for name in self._rules]
+        declarations = "\n".join(f"  bool {name}();" for name in [*self._rules, *(name for name, _ in self._functions)])
+        extra = [f"bool Rules::{name}() {{\n{body}  return true;\n}}\n" for name, body in self._functions]
+        sets = "".join(
+            f"constexpr TokenSet {name}{{{', '.join(map(str, sorted(types)))}}};\n" for types, name in self._sets.items()
+        )
+        return f"""{HEADER}#include "parser/CompiledParser.h"
+#include "parser/RuleParser.h"
+
+namespace vorn {{
+
+namespace {{
+
+{sets}
+class Rules final : public RuleParser<Rules> {{
+ public:
+  using RuleParser::RuleParser;
+
+{declarations}
+}};
+
+{chr(10).join([*bodies, *extra])}
+}}  // namespace
+
+Verdict parseQuery(SyntaxTree& tree) {{ return Rules(tree).parse(&Rules::{STARTS[0]}); }}
+
+Verdict parseExpression(SyntaxTree& tree) {{ return Rules(tree).parse(&Rules::{STARTS[1]}); }}
+
+}}  // namespace vorn
+"""
+
+    def _function(self, name: str) -> str:
+        self._rule, self._ordinal = name, 0
+        body = self._rules[name]
+        loops = name in names_in(body) and name not in names_in_front(body)
+        code = self._code(body, "    " if loops else "  ", loops)
+        if name in STACK_CHECKS:
+            code = "  if (isStackUsedUp()) {\n    return false;\n  }\n" + code
+        if name in TREE_RULES:
+            code = f"  const std::size_t node = open(TreeRule::{name});\n{code}  close(node);\n"
+        if loops:
+            return f"bool Rules::{name}() {{\n  while (true) {{\n{code}    return true;\n  }}\n}}\n"
+        return f"bool Rules::{name}() {{\n{code}  return true;\n}}\n"
+
+    def _next_decision(self) -> Decision:
+        self._ordinal += 1
+        return self._decisions[(self._rule, self._ordinal - 1)]
+
+    def _code(self, expression: tuple, indent: str, is_last: bool = False) -> str:
+        """`is_last` says that a call of the rule itself may start it anew instead."""
+        kind = expression[0]
+        if kind == "sequence":
+            *parts, last = expression[1]
+            return "".join(self._code(part, indent) for part in parts) + self._code(last, indent, is_last)
+        if kind == "rule" and is_last and expression[1] == self._rule:
+            return f"{indent}continue;\n"
+        if kind == "rule":
+            return unless(f"{expression[1]}()", indent)
+        if kind == "token":
+            return unless(self._take(expression[1]), indent)
+        if kind == "choice" or (kind == "optional" and expression[1][0] == "choice"):
+            return self._choice(expression, indent, is_last)
+        return self._repetition(expression, indent, is_last)
+
+    def _repetition(self, expression: tuple, indent: str, is_last: bool) -> str:
+        kind, body = expression
+        decision = self._next_decision()
+        if (decision.rule, decision.ordinal) in TRIALS:
+            return self._loop_by_trial(decision, indent)
+        code = self._code(body, indent + "  ", is_last and kind == "optional")
+        condition = self._condition(self._choices[(decision.rule, decision.ordinal)])
+        if kind == "optional" and body[0] == "token" and condition == self._is(body[1], 0):
+            return f"{indent}skip({min(body[1])});\n" if len(body[1]) == 1 else f"{indent}skipOneOf({self._set(body[1])});\n"
+        if kind == "plus":
+            return f"{indent}do {{\n{code}{indent}}} while ({condition});\n"
+        word = {"optional": "if", "star": "while"}[kind]
+        return f"{indent}{word} ({condition}) {{\n{code}{indent}}}\n"
+
+    def _loop_by_trial(self, decision: Decision, indent: str) -> str:
+        kind, body = decision.expression
+        if kind != "plus":
+            fail(f"decision {decision.ordinal} of {decision.rule}: only a + can be tried again.")
+        name = self._function_of_alternative(body, f"{decision.rule}_link")
+        choices = self._choices[(decision.rule, decision.ordinal)]
+        return (
+            unless(f"{name}()", indent)
+            + f"{indent}while (({self._condition(choices)}) && takeIfMatches(&Rules::{name})) {{\n{indent}}}\n"
+        )
+
+    def _function_of_alternative(self, expression: tuple, name: str) -> str:
+        if expression[0] == "rule":
+            return expression[1]
+        self._functions.append((name, self._code(expression, "  ")))
+        return name
+
+    def _choice(self, expression: tuple, indent: str, is_last: bool) -> str:
+        decision = self._next_decision()
+        place = (decision.rule, decision.ordinal)
+        parts = expression[1] if expression[0] == "choice" else expression[1][1]
+        if place in TRIALS:
+            functions = [self._function_of_alternative(part, f"{decision.rule}_{number}") for number, part in enumerate(parts, 1)]
+            codes = [unless(f"{name}()", indent + "    ") for name in functions]
+        else:
+            functions = []
+            codes = [self._code(part, indent + "    ", is_last) for part in parts]
+        default = "break" if expression[0] == "optional" else "return false"
+        return self._switch(self._choices[place], 0, Alternatives(codes, functions, default), indent)
+
+    def _switch(self, choices: list, depth: int, alternatives: "Alternatives", indent: str) -> str:
+        """Where an alternative is chosen in several places its code stands in the last one."""
+        if depth == 0 and not all(isinstance(one.outcome, tuple) and len(one.outcome) == 1 for one in choices):
+            chosen = self._chosen(choices, indent)
+            lists = sorted({outcome for _, outcome in self._undecided(choices)})
+            cases = "".join(
+                f"{indent}  case {code_of(outcome)}: {{\n"
+                f"{indent}    static constexpr std::array candidates{{"
+                + ", ".join(f"&Rules::{alternatives.functions[one - 1]}" for one in outcome)
+                + f"}};\n{indent}    if (!takeFirstOf(candidates)) {{\n{indent}      return false;\n{indent}    }}\n"
+                + f"{indent}    break;\n{indent}  }}\n"
+                for outcome in lists
+            )
+            numbers = sorted(self._alternatives_in(choices))
+            return (
+                chosen
+                + f"{indent}switch (chosen) {{\n"
+                + "".join(alternatives.case(str(one), one, indent) for one in numbers)
+                + cases
+                + f"{indent}  default:\n{indent}    {alternatives.default};\n{indent}}}\n"
+            )
+        body = "".join(
+            alternatives.cases([str(one) for one in sorted(choice.tokens)], choice.outcome[0], indent) for choice in choices
+        )
+        return f"{indent}switch (ahead(0)) {{\n{body}{indent}  default:\n{indent}    {alternatives.default};\n{indent}}}\n"
+
+    def _alternatives_in(self, choices: list) -> set:
+        found = set()
+        for _, outcome in choices:
+            if isinstance(outcome, list):
+                found |= self._alternatives_in(outcome)
+            elif len(outcome) == 1:
+                found.add(outcome[0])
+        return found
+
+    def _chosen(self, choices: list, indent: str) -> str:
+        return f"{indent}unsigned chosen = 0;\n" + self._find(choices, 0, indent)
+
+    def _find(self, choices: list, depth: int, indent: str) -> str:
+        code = f"{indent}switch (ahead({depth})) {{\n"
+        for tokens, outcome in choices:
+            code += labels([str(one) for one in sorted(tokens)], indent)
+            if isinstance(outcome, list):
+                code += self._find(outcome, depth + 1, indent + "    ")
+            else:
+                code += f"{indent}    chosen = {code_of(outcome)};\n"
+            code += f"{indent}    break;\n"
+        return f"{code}{indent}}}\n"
+
+    def _condition(self, choices: list, depth: int = 0) -> str:
+        """Whether the first alternative is possible."""
+        terms = []
+        for tokens, outcome in choices:
+            if isinstance(outcome, list):
+                inner = self._condition(outcome, depth + 1)
+                if inner:
+                    terms.append(f"({self._is(tokens, depth)} && {f'({inner})' if ' || ' in inner else inner})")
+            elif 1 in outcome:
+                terms.append(self._is(tokens, depth))
+        return " || ".join(terms)
+
+    def _set(self, types: frozenset) -> str:
+        return self._sets.setdefault(types, f"set{len(self._sets)}")
+
+    def _is(self, types: frozenset, depth: int) -> str:
+        if len(types) > FEW:
+            return f"{self._set(frozenset(types))}.holds(ahead({depth}))"
+        terms = " || ".join(f"ahead({depth}) == {one}" for one in sorted(types))
+        return f"({terms})" if len(types) > 1 else terms
+
+    def _take(self, types: frozenset) -> str:
+        if len(types) == 1:
+            return f"take({min(types)})"
+        return f"takeOneOf({self._set(types)})"
+
+
+class Alternatives:
+    """The code of each alternative of a choice."""
+
+    def __init__(self, codes: list, functions: list, default: str) -> None:
+        self._codes = codes
+        self.functions = functions
+        self.default = default
+
+    def cases(self, tokens: list, number: int, indent: str) -> str:
+        if number > len(self._codes):
+            return ""
+        code = self._codes[number - 1]
+        ending = "" if code.endswith("continue;\n") else f"{indent}    break;\n"
+        return f"{labels(tokens, indent)}{code}{ending}"
+
+    def case(self, label: str, number: int, indent: str) -> str:
+        return self.cases([label], number, indent)
+
+
+def names_in_front(expression: tuple) -> list:
+    """The rules that are called elsewhere than at the end."""
+    kind = expression[0]
+    if kind == "sequence":
+        *parts, last = expression[1]
+        return [name for part in parts for name in names_in(part)] + names_in_front(last)
+    if kind == "choice":
+        return [name for part in expression[1] for name in names_in_front(part)]
+    if kind == "optional":
+        return names_in_front(expression[1])
+    return [] if kind == "rule" else names_in(expression)
+
+
+def labels(values: list, indent: str) -> str:
+    """The labels of one case, as many in a line as there is room for."""
+    lines = [f"{indent} "]
+    for value in values:
+        label = f" case {value}:"
+        if len(lines[-1]) + len(label) > WIDTH:
+            lines.append(f"{indent} ")
+        lines[-1] += label
+    return "\n".join(lines) + "\n"
+
+
+def code_of(outcome: tuple) -> int:
+    """A number for an alternative, or for several that are to be tried."""
+    code = 0
+    for one in outcome:
+        code = code * 100 + one
+    return code
+
+
+def unless(call: str, indent: str) -> str:
+    return f"{indent}if (!{call}) {{\n{indent}  return false;\n{indent}}}\n"
+
+
+def tree_rules(grammar: Grammar) -> str:
+    rules = [name for name in grammar.parser_rules if name in TREE_RULES]
+    numbers = [str(rules.index(name)) if name in rules else "-1" for name in grammar.parser_rules]
+    names = "\n".join(f"  {name}," for name in rules)
+    return f"""{HEADER}#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace vorn {{
+
+/// The rules whose nodes stand in a SyntaxTree.
+enum class TreeRule : std::uint8_t {{
+{names}
+}};
+
+/// By the index of a parser rule: its TreeRule, or -1.
+constexpr std::array<std::int8_t, {len(numbers)}> treeRuleOfParserRule = {{
+{filled(numbers)}
+}};
+
+}}  // namespace vorn
+"""
+
+
+def tree_listener(grammar: Grammar) -> str:
+    rules = [name for name in grammar.parser_rules if name in TREE_RULES]
+    operations = [name[0].upper() + name[1:] for name in rules]
+    empty = "\n".join(
+        f"  void enter{name}(const SyntaxTree::Node& /*node*/) {{}}\n  void exit{name}(const SyntaxTree::Node& /*node*/) {{}}"
+        for name in operations
+    )
+
+    def told(verb: str) -> str:
+        return "\n".join(
+            f"    case TreeRule::{rule}:\n      return listener.{verb}{name}(node);" for rule, name in zip(rules, operations)
+        )
+
+    return f"""{HEADER}#pragma once
+
+#include "parser/SyntaxTree.h"
+
+namespace vorn {{
+
+/// Hears of nothing. A listener derives from it and has the operations that it needs, which hide the
+/// empty ones here; the walk knows its type, so none is virtual.
+class TreeListener {{
+ public:
+{empty}
+}};
+
+template <typename Listener>
+void tellOfEntering(Listener& listener, const SyntaxTree::Node& node) {{
+  switch (node.rule) {{
+{told("enter")}
+  }}
+}}
+
+template <typename Listener>
+void tellOfLeaving(Listener& listener, const SyntaxTree::Node& node) {{
+  switch (node.rule) {{
+{told("exit")}
+  }}
+}}
+
+}}  // namespace vorn
+"""
+
+
+class AntlrLookahead:
+    """What the compiled lookahead knows of the decisions of the parser that the ANTLR tool generates."""
+
+    def __init__(self, grammar: Grammar) -> None:
+        network = Network(rules_as_written(grammar), ())
+        lookahead = Lookahead(network)
+        self._choices = [(one, lookahead.exact_choices(one)) for one in network.decisions]
+
+    def source(self) -> str:
+        cases = "".join(
+            f"    case {decision.number}:  // {decision.rule}\n{self._switch(choices, 1, '      ')}      break;\n"
+            for decision, choices in self._choices
+            if any(isinstance(choice.outcome, list) for choice in choices)
+        )
+        return f"""{HEADER}#include "antlr/Lookahead.h"
+
+#include <TokenStream.h>
+
+namespace vorn {{
+
+std::size_t lookaheadAlternative(std::size_t decision, antlr4::TokenStream& tokens) {{
+  switch (decision) {{
+{cases}  }}
+  return 0;
+}}
+
+}}  // namespace vorn
+"""
+
+    def _switch(self, choices: list, depth: int, indent: str) -> str:
+        code = f"{indent}switch (tokens.LA({depth})) {{\n"
+        for tokens, outcome in choices:
+            code += labels(["antlr4::Token::EOF" if one == END_OF_TEXT else str(one) for one in sorted(tokens)], indent)
+            if isinstance(outcome, list):
+                code += self._switch(outcome, depth + 1, indent + "    ") + f"{indent}    break;\n"
+            else:
+                code += f"{indent}    return {outcome[0]};\n"
+        return f"{code}{indent}}}\n"
+
+
+def main() -> None:
+    folder = Path(sys.argv[1])
+    grammar = Grammar()
+    tables = LexerTables(LexerAutomaton(grammar))
+    for name, text in (
+        ("LexerTables.h", tables.header()),
+        ("LexerTables.cpp", tables.source()),
+        ("ParserRules.cpp", RuleFunctions(grammar).source()),
+        ("Lookahead.cpp", AntlrLookahead(grammar).source()),
+        ("TreeRule.h", tree_rules(grammar)),
+        ("TreeListener.h", tree_listener(grammar)),
+    ):
+        (folder / name).write_text(text, encoding="utf-8")
+
+
+if __name__ == "__main__":
+    main()

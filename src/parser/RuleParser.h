@@ -1,0 +1,174 @@
+#pragma once
+
+// The compiled parser is one function for each rule of the grammar, which takes the rule's tokens
+// from the current position on and says whether they are there. Looking up to three tokens ahead
+// decides between alternatives, but for the few places where they are tried in order.
+//
+// A trial only recognises: it adds no nodes, and what it finds at a token is remembered. So every
+// place is tried once, however deep the trials around it are, and the time stays linear. Behind the
+// trials the parser goes on along what is remembered, and never has to take back a node.
+//
+// Nothing is thrown on the way. The stack is looked at in those rules that every recursion passes.
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+#include "parser/CompiledParser.h"
+#include "parser/SyntaxTree.h"
+#include "platform/StackBounds.h"
+
+namespace vorn {
+
+/// A set of token types.
+class TokenSet {
+ public:
+  constexpr TokenSet(std::initializer_list<std::uint8_t> types) {
+    for (const std::uint8_t type : types) {
+      words_[type / bits] |= std::uint64_t{1} << type % bits;
+    }
+  }
+
+  [[nodiscard]] constexpr bool holds(std::uint8_t type) const {
+    return (words_[type / bits] >> type % bits & 1U) != 0;
+  }
+
+ private:
+  static constexpr std::size_t bits = 64;
+  std::array<std::uint64_t, 3> words_{};
+};
+
+/// What the functions of the rules are made of. `Rules` derives from it.
+template <typename Rules>
+class RuleParser {
+ public:
+  using Rule = bool (Rules::*)();
+
+  explicit RuleParser(SyntaxTree& tree) : tree_(tree), types_(tree.types.data()) {}
+
+  Verdict parse(Rule start) {
+    const bool matches = tree_.isWhole && call(start) && position_ >= tree_.tokenCount();
+    return isTooDeep_ ? Verdict::TooDeep : matches ? Verdict::Accepted : Verdict::Refused;
+  }
+
+ protected:
+  [[nodiscard]] std::uint8_t ahead(std::size_t count) const { return types_[position_ + count]; }
+
+  bool take(std::uint8_t type) {
+    const bool matches = ahead(0) == type;
+    position_ += matches ? 1 : 0;
+    return matches;
+  }
+
+  bool takeOneOf(const TokenSet& types) {
+    const bool matches = types.holds(ahead(0));
+    position_ += matches ? 1 : 0;
+    return matches;
+  }
+
+  void skip(std::uint8_t type) { static_cast<void>(take(type)); }
+  void skipOneOf(const TokenSet& types) { static_cast<void>(takeOneOf(types)); }
+
+  std::size_t open(TreeRule rule) {
+    if (!isTrial_) {
+      tree_.nodes.push_back({rule, position_, position_, 0});
+    }
+    return tree_.nodes.size() - 1;
+  }
+
+  void close(std::size_t node) {
+    if (!isTrial_) {
+      tree_.nodes[node].last = position_ - 1;
+      tree_.nodes[node].end = static_cast<std::uint32_t>(tree_.nodes.size());
+    }
+  }
+
+  [[nodiscard]] bool isStackUsedUp() {
+    isTooDeep_ = isTooDeep_ || stackPosition() < stackEnd_;
+    return isTooDeep_;
+  }
+
+  /// Takes the first of the rules that matches here.
+  template <std::size_t count>
+  bool takeFirstOf(const std::array<Rule, count>& rules) {
+    if (isTrial_ || isTried()) {
+      return takeTried(tried(rules.data(), count), rules.data());
+    }
+    // If no other one matches, the parse itself finds out about the last one.
+    constexpr std::size_t last = count - 1;
+    const Trial trial = tryInOrder(rules.data(), last);
+    return !isTooDeep_ && call(rules[trial.end == failed ? last : trial.rule]);
+  }
+
+  /// Takes what the rule matches here, or nothing.
+  bool takeIfMatches(Rule rule) { return takeTried(tried(&rule, 1), &rule); }
+
+ private:
+  // What a trial has found at a token. No rule that is tried matches nothing.
+  struct Trial {
+    std::uint32_t end;   // of what was matched, as a token
+    std::uint32_t rule;  // that matched, by its place among those tried
+  };
+  static constexpr std::uint32_t untried = 0;
+  static constexpr std::uint32_t failed = 0xFFFFFFFF;
+
+  bool call(Rule rule) { return (static_cast<Rules*>(this)->*rule)(); }
+
+  [[nodiscard]] bool isTried() const {
+    return !trials_.empty() && trials_[position_].end != untried;
+  }
+
+  const Trial& tried(const Rule* rules, std::size_t count) {
+    if (trials_.empty()) {
+      trials_.resize(tree_.tokenCount() + 1);
+    }
+    Trial& trial = trials_[position_];
+    if (trial.end == untried) {
+      trial = tryInOrder(rules, count);
+    }
+    return trial;
+  }
+
+  Trial tryInOrder(const Rule* rules, std::size_t count) {
+    const std::uint32_t start = position_;
+    const bool isWithinTrial = std::exchange(isTrial_, true);
+    Trial trial{failed, 0};
+    for (; trial.rule < count; ++trial.rule) {
+      position_ = start;
+      if (call(rules[trial.rule])) {
+        trial.end = position_;
+        break;
+      }
+    }
+    position_ = start;
+    isTrial_ = isWithinTrial;
+    return trial;
+  }
+
+  bool takeTried(const Trial& trial, const Rule* rules) {
+    if (trial.end == failed || isTooDeep_) {
+      return false;
+    }
+    if (isTrial_) {
+      position_ = trial.end;
+      return true;
+    }
+    return call(rules[trial.rule]);
+  }
+
+  // What the functions of rules between two checks of the stack may take, and what they call.
+  static constexpr std::uintptr_t stackReserve = std::uintptr_t{16} * 1024;
+
+  SyntaxTree& tree_;
+  const std::uint8_t* types_;
+  std::uintptr_t stackEnd_ = stackEnd(stackPosition()) + stackReserve;
+  std::uint32_t position_ = 0;  // of the next token
+  bool isTrial_ = false;
+  bool isTooDeep_ = false;
+  std::vector<Trial> trials_;  // by token; none before the first trial within another
+};
+
+}  // namespace vorn
