@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "CypherParser.h"
+
+namespace antlr4 {
+class ANTLRInputStream;
+class CommonTokenStream;
+}  // namespace antlr4
+
+namespace vorn {
+
+class CypherLexer;
+
+/// The ANTLR runtime's pipeline over one text, in which the first lexical or syntax error is fatal.
+class AntlrPipeline {
+ public:
+  /// The text must outlive the pipeline.
+  explicit AntlrPipeline(std::string_view utf8);
+
+  AntlrPipeline(const AntlrPipeline&) = delete;
+  AntlrPipeline& operator=(const AntlrPipeline&) = delete;
+  AntlrPipeline(AntlrPipeline&&) = delete;
+  AntlrPipeline& operator=(AntlrPipeline&&) = delete;
+  ~AntlrPipeline();
+
+  /// Each parses from the beginning, and may be called once. Throws
+  /// antlr4::ParseCancellationException at an error. The tree is the pipeline's.
+  CypherParser::OC_ExpressionContext& parseExpression() { return *parser_->oC_Expression(); }
+  CypherParser::OC_CypherContext& parseQuery() { return *parser_->oC_Cypher(); }
+
+ private:
+  // Each refers to the one before it.
+  std::unique_ptr<antlr4::ANTLRInputStream> input_;
+  std::unique_ptr<CypherLexer> lexer_;
+  std::unique_ptr<antlr4::CommonTokenStream> tokens_;
+  std::unique_ptr<CypherParser> parser_;
+};
+
+}  // namespace vorn

@@ -1,0 +1,30 @@
+#include "antlr/ThrowingErrorListener.h"
+
+#include <Exceptions.h>
+
+#include <cstddef>
+#include <string>
+
+#include "NeverDestroyed.h"
+
+namespace {
+
+// Apart from the throw, so that the unwinder need not look past all that this has to clean up.
+[[gnu::noinline]] std::string messageAt(std::size_t line, std::size_t column,
+                                        const std::string& message) {
+  return "line " + std::to_string(line) + ":" + std::to_string(column) + " " + message;
+}
+
+}  // namespace
+
+// Half destroyed it would take every text for an error-free one.
+ThrowingErrorListener& ThrowingErrorListener::instance() {
+  return vorn::neverDestroyed<ThrowingErrorListener>();
+}
+
+void ThrowingErrorListener::syntaxError(antlr4::Recognizer* /*recognizer*/,
+                                        antlr4::Token* /*offendingSymbol*/, size_t line,
+                                        size_t charPositionInLine, const std::string& message,
+                                        std::exception_ptr /*exception*/) {
+  throw antlr4::ParseCancellationException(messageAt(line, charPositionInLine, message));
+}
