@@ -127,8 +127,10 @@ if __name__ == "__main__":
     drawing = random.Random(SEED)
     writer = Writer(CypherGrammar(grammar_file), drawing)
     filters = examples(Path(examples_folder) / "filters") + derived(writer, "oC_Expression")
-    store(output / "columns", examples(Path(examples_folder) / "queries") + derived(writer, "oC_Cypher"))
+    queries = examples(Path(examples_folder) / "queries") + derived(writer, "oC_Cypher")
+    store(output / "columns", queries)
     store(output / "usages", filters)
+    store(output / "parser", queries + filters)
     names = [SEPARATOR + SEPARATOR.join(RENAMINGS[i % len(RENAMINGS)]) for i in range(len(filters))]
     store(output / "renaming", [one + other for one, other in zip(filters, names)])
     for target, size in (("grammar", 200), ("strings", 80)):

@@ -1,0 +1,11 @@
+# cmake -DINPUT=... -DOUTPUT=... -P WriteBare.cmake: one generated file as a bare recogniser.
+file(READ "${INPUT}" text)
+if(INPUT MATCHES "CypherParser[.]h$")
+  string(REPLACE "    NodeTracker _tracker;" "" bare "${text}")
+  if(bare STREQUAL text)
+    message(FATAL_ERROR "CypherParser.h has no NodeTracker to leave out of the bare recognisers.")
+  endif()
+  set(text "${bare}")
+endif()
+string(REPLACE "namespace vorn" "namespace bare" text "${text}")
+file(WRITE "${OUTPUT}" "${text}")

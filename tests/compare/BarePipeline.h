@@ -1,0 +1,41 @@
+#pragma once
+
+#include <ANTLRInputStream.h>
+#include <BaseErrorListener.h>
+#include <CommonTokenStream.h>
+#include <Exceptions.h>
+
+#include <string>
+#include <string_view>
+
+#include "CypherLexer.h"
+#include "CypherParser.h"
+#include "Subject.h"
+
+namespace compare {
+
+/// Ends the parse at the first error.
+class FirstErrorEnds : public antlr4::BaseErrorListener {
+ public:
+  [[noreturn]] void syntaxError(antlr4::Recognizer* recognizer, antlr4::Token* offending,
+                                std::size_t line, std::size_t column, const std::string& message,
+                                std::exception_ptr cause) override;
+
+  bool atEnd = false;  // of the text
+};
+
+/// The recognisers over one text.
+struct BarePipeline {
+  explicit BarePipeline(std::string_view utf8);
+
+  FirstErrorEnds errors;
+  antlr4::ANTLRInputStream input;
+  bare::CypherLexer lexer;
+  antlr4::CommonTokenStream tokens;
+  bare::CypherParser parser;
+  antlr4::ParserRuleContext* tree = nullptr;  // the parser's
+
+  void run(Entry entry);
+};
+
+}  // namespace compare

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <ParserRuleContext.h>
+
+#include "Answers.h"
+
+namespace compare {
+
+/// The three answers from the runtime's own tree, its walker and getText(), in the plainest way.
+Columns referenceColumns(antlr4::ParserRuleContext& query);
+Usages referenceUsages(antlr4::ParserRuleContext& expression);
+Renamed referenceRenamed(antlr4::ParserRuleContext& expression, const Renames& renames);
+
+}  // namespace compare
