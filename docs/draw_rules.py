@@ -13,24 +13,22 @@ import argparse
 import pathlib
 import re
 import sys
-from typing import Iterator, NamedTuple, Union
+from typing import NamedTuple, Union
 
 import railroad
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-GRAMMAR = ROOT / "grammar" / "Cypher.g4"
+sys.path.insert(0, str(ROOT / "grammar"))
+
+from cypher_grammar import SUFFIXES, Grammar  # noqa: E402
+
 DOCUMENT = ROOT / "docs" / "language.md"
 DIAGRAMS = ROOT / "docs" / "language"
-
-LEXEME = re.compile(
-    r"""//[^\n]* | ^@[\w:]+\s*\{.*?^\}                         # nothing that is drawn
-        | (?P<lexeme>'(?:\\.|[^'\\])*'|\[(?:\\.|[^\]\\])*\]|\w+|\.\.|[:;|()?*+~])""",
-    re.VERBOSE | re.MULTILINE | re.DOTALL,
-)
 
 # Sets of Unicode: their many ranges would tell a reader less than their names do.
 NOT_DRAWN = {"ID_Start", "ID_Continue", "Pc", "Sc"}
 MEMBERS_IN_A_COLUMN = 9
+NAMED = {"\n": "\\n", "\r": "\\r", "\t": "\\t"}
 
 STYLE = (
     "path,rect{fill:none;stroke:#57606a;stroke-width:2}"
@@ -75,91 +73,26 @@ class Choice(NamedTuple):
 Node = Union[Name, Literal, Inversion, Suffixed, Sequence, Choice]
 
 
-class Reader:
-    """Reads grammar text by recursive descent."""
-
-    def __init__(self, text: str) -> None:
-        self.lexemes = [match["lexeme"] for match in LEXEME.finditer(text) if match["lexeme"]]
-        self.position = 0
-
-    def next(self) -> str:
-        self.position += 1
-        return self.lexemes[self.position - 1]
-
-    def skip(self, lexeme: str) -> bool:
-        found = self.position < len(self.lexemes) and self.lexemes[self.position] == lexeme
-        self.position += found
-        return found
-
-    def expect(self, lexeme: str) -> None:
-        if not self.skip(lexeme):
-            raise SystemExit(f"draw_rules.py: Cypher.g4 lacks '{lexeme}' at {self.lexemes[self.position:][:5]}.")
-
-    def rules(self) -> Iterator[tuple[str, Node]]:
-        self.expect("grammar")
-        self.next()
-        self.expect(";")
-        while self.position < len(self.lexemes):
-            self.skip("fragment")
-            name = self.next()
-            self.expect(":")
-            yield name, self.choice()
-            self.expect(";")
-
-    def choice(self) -> Node:
-        alternatives = [self.sequence()]
-        while self.skip("|"):
-            alternatives.append(self.sequence())
-        return alternatives[0] if len(alternatives) == 1 else Choice(tuple(alternatives))
-
-    def sequence(self) -> Node:
-        items = []
-        while self.lexemes[self.position] not in "|);":
-            items.append(self.suffixed())
-        return items[0] if len(items) == 1 else Sequence(tuple(items))
-
-    def suffixed(self) -> Node:
-        item = self.item()
-        for suffix in "?*+":
-            if self.skip(suffix):
-                return Suffixed(item, suffix)
-        return item
-
-    def item(self) -> Node:
-        lexeme = self.next()
-        if lexeme == "(":
-            group = self.choice()
-            self.expect(")")
-            return group
-        if lexeme == "~":
-            return Inversion(self.item())
-        if lexeme[0] not in "'[":
-            return Name(lexeme)
-        if self.skip(".."):
-            return Literal(f"{spelling(lexeme)} … {spelling(self.next())}")
-        return Literal(spelling(lexeme))
+def node_of(expression: tuple) -> Node:
+    kind = expression[0]
+    if kind == "sequence":
+        return Sequence(tuple(map(node_of, expression[1])))
+    if kind == "choice":
+        return Choice(tuple(map(node_of, expression[1])))
+    if kind in SUFFIXES.values():
+        return Suffixed(node_of(expression[1]), next(one for one, name in SUFFIXES.items() if name == kind))
+    if kind == "not":
+        return Inversion(node_of(expression[1]))
+    if kind == "name":
+        return Name(expression[1])
+    if kind == "range":
+        return Literal(f"{spelling(chr(expression[1]))} … {spelling(chr(expression[2]))}")
+    return Literal(spelling(expression[1]))
 
 
-def spelling(literal: str) -> str:
-    """What a quoted literal stands for, as it is shown."""
-    text = re.sub(r"\\u([0-9A-F]{4})", r"U+\1", literal[1:-1])
-    return re.sub(r"\\([\\'\]])", r"\1", text)
-
-
-def keyword(node: Node) -> str:
-    """The word that a rule matches in any case, or nothing."""
-    letters = node.items if isinstance(node, Sequence) else (node,)
-    word = ""
-    for letter in letters:
-        if not isinstance(letter, Choice) or len(letter.alternatives) != 2:
-            return ""
-        upper, lower = letter.alternatives
-        if not (isinstance(upper, Literal) and isinstance(lower, Literal)):
-            return ""
-        if len(upper.text) != 1 or upper.text.lower() != lower.text:
-            return ""
-        word += upper.text
-    return word if len(word) > 1 else ""
+def spelling(text: str) -> str:
+    """What a text is shown as."""
+    return "".join(NAMED.get(c, c if " " <= c <= "~" else f"U+{ord(c):04X}") for c in text)
 
 
 class Draughtsman:
@@ -253,11 +186,12 @@ def smaller(text: str) -> str:
 
 def diagrams() -> dict[str, str]:
     """The diagrams by rule, in the order of the grammar."""
-    rules = dict(Reader(GRAMMAR.read_text(encoding="utf-8")).rules())
-    keywords = {name: keyword(body) for name, body in rules.items() if keyword(body)}
+    grammar = Grammar()
+    rules = {**grammar.parser_rules, **grammar.lexer_rules}
+    keywords = {name: grammar.keyword(name) for name in grammar.lexer_rules if grammar.keyword(name)}
     draughtsman = Draughtsman(keywords)
     return {
-        name: svg(draughtsman.draw(body))
+        name: svg(draughtsman.draw(node_of(body)))
         for name, body in rules.items()
         if name not in keywords and name not in NOT_DRAWN
     }

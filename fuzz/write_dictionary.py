@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
 """Writes what a fuzzer should know of the language, in libFuzzer's format.
 
-write_dictionary.py GRAMMAR OUTPUT
+write_dictionary.py OUTPUT
 """
 
 import sys
 from pathlib import Path
 
-from cypher_grammar import CypherGrammar
+from derivable_grammar import DerivableGrammar
 
 # What the grammar has no literal for and yet changes the meaning of what follows.
 DELIMITERS = ["`", "'", '"', "\\", "/*", "*/", "//", "\n", "0x", "0o", "1e-", ".5", "`a``b`", "\\u0041"]
@@ -18,7 +18,6 @@ def entry(text: str) -> str:
 
 
 if __name__ == "__main__":
-    grammar_file, output = sys.argv[1:]
-    grammar = CypherGrammar(grammar_file)
+    grammar = DerivableGrammar()
     words = [*grammar.keywords(), *grammar.literals, *DELIMITERS]
-    Path(output).write_text("".join(entry(word) for word in words), encoding="ascii")
+    Path(sys.argv[1]).write_text("".join(entry(word) for word in words), encoding="ascii")

@@ -1,22 +1,21 @@
 #!/usr/bin/env python3
 """Writes the C++ table that the grammar fuzzer derives text from.
 
-write_grammar_table.py GRAMMAR OUTPUT
+write_grammar_table.py OUTPUT
 """
 
 import sys
 from pathlib import Path
 
-from cypher_grammar import CypherGrammar
+from derivable_grammar import DerivableGrammar
 
 ENDLESS = 10**6
 
 
 class Table:
-    def __init__(self, grammar: CypherGrammar) -> None:
+    def __init__(self, grammar: DerivableGrammar) -> None:
         self.grammar = grammar
         self.rule_index = {name: index for index, name in enumerate(grammar.rules)}
-        self.token_type = {name: index + 1 for index, name in enumerate(grammar.token_names)}
         self.heights = self._heights_of_rules()
         self.elements = []
         self.links = []
@@ -79,7 +78,7 @@ class Table:
             characters = [(ord(character), ord(character)) for character in expression[1]]
             return (kind, self._add_ranges(characters), len(characters), 0, 0)
         if kind == "token":
-            return (kind, self._add_links([expression[2]]), 1, self.token_type[expression[1]], 0)
+            return (kind, self._add_links([expression[2]]), 1, self.grammar.token_types[expression[1]], 0)
         return (kind, self._add_links([expression[1]]), 1, 0, height)
 
     def cpp(self) -> str:
@@ -98,5 +97,4 @@ class Table:
 
 
 if __name__ == "__main__":
-    grammar_file, output = sys.argv[1:]
-    Path(output).write_text(Table(CypherGrammar(grammar_file)).cpp(), encoding="utf-8")
+    Path(sys.argv[1]).write_text(Table(DerivableGrammar()).cpp(), encoding="utf-8")

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes the inputs from which fuzzing starts: one folder for each target.
 
-write_seeds.py GRAMMAR EXAMPLES OUTPUT
+write_seeds.py EXAMPLES OUTPUT
 
 Queries and filters come from the examples and are derived from the grammar; what the other targets
 read is drawn. The same seed gives the same files.
@@ -12,7 +12,7 @@ import shutil
 import sys
 from pathlib import Path
 
-from cypher_grammar import CypherGrammar
+from derivable_grammar import DerivableGrammar
 
 SEED = 20261121
 DEEPEST = 18
@@ -26,7 +26,7 @@ RENAMINGS = [(b"n", b"m"), (b"`n`", b"`m"), (b"a", b"a`b"), (b"COUNT", b""), (b"
 class Writer:
     """Derives text at random, with short words and blanks so that most of it can be read again."""
 
-    def __init__(self, grammar: CypherGrammar, chance: random.Random) -> None:
+    def __init__(self, grammar: DerivableGrammar, chance: random.Random) -> None:
         self.grammar = grammar
         self.chance = chance
         self.heights = {}
@@ -121,11 +121,11 @@ def store(folder: Path, inputs: list) -> None:
 
 
 if __name__ == "__main__":
-    grammar_file, examples_folder, output_folder = sys.argv[1:]
+    examples_folder, output_folder = sys.argv[1:]
     output = Path(output_folder)
     shutil.rmtree(output, ignore_errors=True)
     drawing = random.Random(SEED)
-    writer = Writer(CypherGrammar(grammar_file), drawing)
+    writer = Writer(DerivableGrammar(), drawing)
     filters = examples(Path(examples_folder) / "filters") + derived(writer, "oC_Expression")
     queries = examples(Path(examples_folder) / "queries") + derived(writer, "oC_Cypher")
     store(output / "columns", queries)
