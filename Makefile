@@ -10,6 +10,7 @@ SECONDS := 60
 BENCH := build/bench
 FUZZ := build/fuzz
 MILLIONS := 2
+TEXTS := 200000
 
 help: ## list these targets
 	@sed -n 's/^\([a-z0-9-]*\):.*## /\1\t/p' $(MAKEFILE_LIST) | expand -t 22
@@ -42,6 +43,10 @@ soak: setup $(BUILD)/build.ninja ## make MILLIONS of random calls, print the mem
 large-texts: setup $(BUILD)/build.ninja ## measure time and memory of large and of ambiguous texts
 	@cmake --build --preset release --target measure-large-texts
 	@$(BUILD)/tests/robustness/measure-large-texts
+
+compare: setup $(BUILD)/build.ninja ## compare the parser with the bare pipeline on TEXTS texts
+	@cmake --build --preset release --target compare
+	@$(BUILD)/tests/compare/compare --texts $(TEXTS) examples/queries examples/filters fuzz/findings
 
 allocations: setup $(BUILD)/build.ninja ## let every allocation of every first call fail (hours)
 	@cmake --build --preset release --target VornLib failing_allocations_test

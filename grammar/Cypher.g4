@@ -17,8 +17,6 @@ grammar Cypher;
 
 @parser::postinclude {
 #undef NULL
-#include <bitset>
-#include <memory_resource>
 }
 
 // The generated code builds its tables inside std::call_once, which on some systems waits for ever once
@@ -56,80 +54,6 @@ grammar Cypher;
         std::exchange(cypherParserStaticData, nullptr));
   }
   }
-}
-
-// Hides the runtime's tracker of the same name from the generated rules, so that the nodes of a tree
-// can come from memory that is released as a whole, and tell listeners of some rules only. Without such
-// memory they come from the heap and tell of all.
-@parser::members {
-  using Rules = std::bitset<RuleOC_Dash + 1>;
-
-  // For each node that it is told of, a listener is searched for its generated type, twice.
-  template <typename Node>
-  class SelectiveNode final : public Node {
-   public:
-    template <typename... Arguments>
-    explicit SelectiveNode(const Rules& rules, Arguments... arguments)
-        : Node(arguments...), heard(rules) {}
-
-    void enterRule(antlr4::tree::ParseTreeListener* listener) override {
-      if (heard[Node::getRuleIndex()]) {
-        Node::enterRule(listener);
-      }
-    }
-
-    void exitRule(antlr4::tree::ParseTreeListener* listener) override {
-      if (heard[Node::getRuleIndex()]) {
-        Node::exitRule(listener);
-      }
-    }
-
-   private:
-    const Rules& heard;
-  };
-
-  class NodeTracker {
-   public:
-    NodeTracker() = default;
-    NodeTracker(const NodeTracker&) = delete;
-    NodeTracker& operator=(const NodeTracker&) = delete;
-    ~NodeTracker() {
-      for (antlr4::tree::ParseTree* node : nodes) {
-        if (memory == nullptr) {
-          delete node;
-        } else if (node != nullptr) {
-          node->~ParseTree();
-        }
-      }
-    }
-
-    void takeNodesFrom(std::pmr::memory_resource& source) { memory = &source; }
-
-    void tellOnlyOf(const Rules& rules) { heard = rules; }
-
-    template <typename Node, typename... Arguments>
-    Node* createInstance(Arguments... arguments) {
-      nodes.push_back(nullptr);
-      Node* node = nullptr;
-      if (memory == nullptr) {
-        nodes.back() = node = new Node(arguments...);
-      } else {
-        using Selective = SelectiveNode<Node>;
-        nodes.back() = node = new (memory->allocate(sizeof(Selective), alignof(Selective)))
-            Selective(heard, arguments...);
-        // Most nodes have one to three children, and the heap's smallest block holds three.
-        node->children.reserve(3);
-      }
-      return node;
-    }
-
-   private:
-    Rules heard = Rules().set();
-    std::pmr::memory_resource* memory = nullptr;
-    std::vector<antlr4::tree::ParseTree*> nodes;
-  };
-
-  NodeTracker _tracker;
 }
 
 oC_Cypher : SP? oC_Statement ( SP? ';' )? SP? EOF ;

@@ -125,6 +125,9 @@ struct LexerTables {{
   static const std::array<std::uint8_t, {len(self._page_of)}> pageOf;
   static const std::array<std::array<std::uint8_t, 256>, {len(self._pages)}> pages;
 
+  static std::uint8_t classOf(std::uint32_t codePoint) {{
+    return pages[pageOf[codePoint / 256]][codePoint % 256];
+  }}
   /// The type of the token that ends in a state, or 0.
   static std::uint8_t typeOf(std::uint16_t state) {{
     return static_cast<std::uint8_t>(transitions[state]);
@@ -246,7 +249,7 @@ Verdict parseExpression(SyntaxTree& tree) {{ return Rules(tree).parse(&Rules::{S
         if name in STACK_CHECKS:
             code = "  if (isStackUsedUp()) {\n    return false;\n  }\n" + code
         if name in TREE_RULES:
-            code = f"  const std::size_t node = open(TreeRule::{name});\n{code}  close(node);\n"
+            code = f"  const std::uint32_t node = open(TreeRule::{name});\n{code}  close(node);\n"
         if loops:
             return f"bool Rules::{name}() {{\n  while (true) {{\n{code}    return true;\n  }}\n}}\n"
         return f"bool Rules::{name}() {{\n{code}  return true;\n}}\n"
@@ -525,20 +528,22 @@ class AntlrLookahead:
 
     def source(self) -> str:
         cases = "".join(
-            f"    case {decision.number}:  // {decision.rule}\n{self._switch(choices, 1, '      ')}      break;\n"
+            f"    case {decision.number}:  // {decision.rule}\n{self._switch(choices, 1, '      ')}"
             for decision, choices in self._choices
-            if any(isinstance(choice.outcome, list) for choice in choices)
+            if any(isinstance(outcome, list) or not outcome for _, outcome in choices[:-1])
         )
         return f"""{HEADER}#include "antlr/Lookahead.h"
 
+#include <Token.h>
 #include <TokenStream.h>
 
 namespace vorn {{
 
 std::size_t lookaheadAlternative(std::size_t decision, antlr4::TokenStream& tokens) {{
   switch (decision) {{
-{cases}  }}
-  return 0;
+{cases}    default:
+      return 0;
+  }}
 }}
 
 }}  // namespace vorn
@@ -547,11 +552,14 @@ std::size_t lookaheadAlternative(std::size_t decision, antlr4::TokenStream& toke
     def _switch(self, choices: list, depth: int, indent: str) -> str:
         code = f"{indent}switch (tokens.LA({depth})) {{\n"
         for tokens, outcome in choices:
-            code += labels(["antlr4::Token::EOF" if one == END_OF_TEXT else str(one) for one in sorted(tokens)], indent)
-            if isinstance(outcome, list):
-                code += self._switch(outcome, depth + 1, indent + "    ") + f"{indent}    break;\n"
+            if tokens is None:
+                code += f"{indent}  default:\n"
             else:
-                code += f"{indent}    return {outcome[0]};\n"
+                code += labels(["antlr4::Token::EOF" if one == END_OF_TEXT else str(one) for one in sorted(tokens)], indent)
+            if isinstance(outcome, list):
+                code += self._switch(outcome, depth + 1, indent + "    ")
+            else:
+                code += f"{indent}    return {outcome[0] if outcome else 0};\n"
         return f"{code}{indent}}}\n"
 
 

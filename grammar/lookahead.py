@@ -9,6 +9,10 @@ do within the rule, and an earlier one can do as well, belongs to the earlier on
 from typing import Iterator, NamedTuple, Union
 
 LONGEST_LOOKAHEAD = 3
+# What tells the runtime's prediction may be further ahead where few tokens leave it open, as in names
+# with dots.
+LONGEST_NARROW_WAY = 7
+NARROW_WAY = 2
 END_OF_TEXT = 0  # as a token type; more of it follows
 
 
@@ -132,7 +136,11 @@ class Lookahead:
         return self._choices(self._fronts(decision), 1)
 
     def exact_choices(self, decision: Decision) -> list:
-        """Only what the runtime's prediction finds out before two alternatives meet in a configuration."""
+        """Only what the runtime's prediction finds out before two alternatives meet in a configuration.
+
+        Where the outcome is empty it is not known. At a token that leads on from none of them, which
+        the last choice is for, the runtime takes the first one that has left the rule.
+        """
         return self._exact_choices(self._fronts(decision), 1)
 
     def _fronts(self, decision: Decision) -> list:
@@ -219,20 +227,27 @@ class Lookahead:
 
     def _exact_choices(self, fronts: list, depth: int) -> list:
         result = []
-        for tokens, nexts in self._by_token(fronts):
+        ways = list(self._by_token(fronts))
+        is_narrow = sum(len(nexts) > 1 for _, nexts in ways) <= NARROW_WAY
+        longest = LONGEST_NARROW_WAY if is_narrow else LONGEST_LOOKAHEAD
+        for tokens, nexts in ways:
             alternatives = tuple(nexts)
             if len(alternatives) == 1:
                 result.append(Choice(tokens, alternatives))
                 continue
-            if depth == LONGEST_LOOKAHEAD:
-                continue
             behind = [(one, self._closure(next_)) for one, next_ in nexts.items()]
             keys = [{key[:2] for key in found} for _, found in behind]
-            if sum(map(len, keys)) == len(set().union(*keys)):
-                further = self._exact_choices(behind, depth + 1)
-                if further:
-                    result.append(Choice(tokens, further))
-        return joined(result)
+            is_exact = depth < longest and sum(map(len, keys)) == len(set().union(*keys))
+            result.append(Choice(tokens, self._exact_choices(behind, depth + 1) if is_exact else ()))
+        finished = [one for one, found in fronts if any(popped for _, _, popped in found)]
+        default = tuple(finished[:1])
+        told_apart = []
+        for tokens, outcome in joined(result):
+            if isinstance(outcome, list) and len(outcome) == 1:
+                outcome = outcome[0].outcome
+            if outcome != default:
+                told_apart.append(Choice(tokens, outcome))
+        return [*joined(told_apart), Choice(None, default)]
 
 
 def joined(choices: list) -> list:

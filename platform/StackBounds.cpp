@@ -5,9 +5,14 @@
 #else
 #include <pthread.h>
 #include <signal.h>  // NOLINT(modernize-deprecated-headers): POSIX has more in it
+#include <sys/auxv.h>
+#include <sys/resource.h>
+#include <unistd.h>
 #endif
 
+#include <algorithm>
 #include <cstddef>
+#include <string_view>
 
 namespace vorn {
 
@@ -21,6 +26,10 @@ struct StackBounds {
     return end <= position && position < top;
   }
 };
+
+// A main thread without a limit seems to own all memory down to the next mapping, but the kernel
+// stops it short of that.
+constexpr std::uintptr_t largestSize = std::uintptr_t{64} * 1024 * 1024;
 
 #if defined(_WIN32)
 
@@ -44,6 +53,29 @@ StackBounds currentBounds(std::uintptr_t /*position*/) {
 StackBounds boundsFrom(const void* end, std::size_t size) {
   const auto address = reinterpret_cast<std::uintptr_t>(end);
   return {address, address + size};
+}
+
+// The C library would read the process's memory map for the main thread, which takes a file. The
+// kernel writes the program's path at the top of that stack, but for one word, and lets the stack
+// grow from there up to a limit that may change at any time.
+std::uintptr_t mainStackTop() {
+  const auto* const path = reinterpret_cast<const char*>(getauxval(AT_EXECFN));
+  if (path == nullptr) {
+    return 0;
+  }
+  const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+  const auto end = reinterpret_cast<std::uintptr_t>(path) + std::string_view(path).size() + 1;
+  return (end + sizeof(void*) + page - 1) / page * page;
+}
+
+// Of no size where the limit has been lowered to less than what is used.
+StackBounds mainBounds(std::uintptr_t position) {
+  static const std::uintptr_t top = mainStackTop();
+  rlimit limit{};
+  if (position >= top || top - position > largestSize || getrlimit(RLIMIT_STACK, &limit) != 0) {
+    return {};
+  }
+  return {limit.rlim_cur < top ? std::min(top - limit.rlim_cur, position) : 0, top};
 }
 
 StackBounds threadBounds() {
@@ -70,15 +102,19 @@ StackBounds signalStackBounds() {
 }
 
 StackBounds currentBounds(std::uintptr_t position) {
-  // Kept, since on the main thread the question makes the C library read the process's memory map.
-  // The initial-exec model, since the general one allocates at first use and ends the process if
-  // that fails.
+  if (const StackBounds signals = signalStackBounds(); signals.hold(position)) {
+    return signals;
+  }
+  if (const StackBounds main = mainBounds(position); main.hold(position)) {
+    return main;
+  }
+  // Kept, since the question allocates. The initial-exec model, since the general one allocates at
+  // first use and ends the process if that fails.
   [[gnu::tls_model("initial-exec")]] static thread_local StackBounds own;
-  if (own.top == 0) {
+  if (own.top == 0 && gettid() != getpid()) {
     own = threadBounds();
   }
-  const StackBounds signals = signalStackBounds();
-  return signals.hold(position) ? signals : own;
+  return own;
 }
 
 #endif
@@ -88,14 +124,11 @@ StackBounds currentBounds(std::uintptr_t position) {
 std::uintptr_t stackEnd(std::uintptr_t position) {
   // What is left to assume of a stack that the platform knows nothing of.
   constexpr std::uintptr_t assumedSize = std::uintptr_t{64} * 1024;
-  // A main thread without a limit seems to own all memory down to the next mapping, but the kernel
-  // stops it short of that.
-  constexpr std::uintptr_t largestSize = std::uintptr_t{64} * 1024 * 1024;
   const StackBounds bounds = currentBounds(position);
   if (!bounds.hold(position)) {
     return position - assumedSize;
   }
-  return position - bounds.end > largestSize ? position - largestSize : bounds.end;
+  return std::max(bounds.end, position - std::min(position, largestSize));
 }
 
 }  // namespace vorn

@@ -3,10 +3,9 @@
 #include <string_view>
 #include <utility>
 
-#include "CypherBaseListener.h"
 #include "PropertyFilterExpressionInterrogator.h"
-#include "SourceText.h"
 #include "SymbolicName.h"
+#include "parser/TreeWalk.h"
 #include "platform/StringUtf8ImplDetail.h"
 
 namespace vorn {
@@ -15,41 +14,44 @@ namespace {
 
 // The text of the element is given only if it is a single token. Tokens are separate objects, so
 // nothing may be read by stepping from the first one towards the last.
-std::string forbiddenElementMessage(const std::string& typeName,
-                                    const antlr4::ParserRuleContext* context) {
-  std::string element;
-  if (context != nullptr && context->getStart() == context->getStop()) {
-    element = context->getStart()->getText();
-  }
-  return "The openCypher element '" + element + "' of type '" + typeName +
-         "' is forbidden in a property filter expression.";
-}
-
-[[noreturn]] void reject(const std::string& typeName, const antlr4::ParserRuleContext* context) {
-  throw std::logic_error(forbiddenElementMessage(typeName, context));
+std::logic_error forbiddenElement(std::string_view typeName, std::string_view element) {
+  constexpr std::size_t room = 96;
+  std::string message;
+  message.reserve(room + typeName.size() + element.size());
+  message.append("The openCypher element '").append(element).append("' of type '").append(typeName);
+  return std::logic_error(message.append("' is forbidden in a property filter expression."));
 }
 
 // Fails at the first element that brings variables or patterns of its own into a property filter.
-class PropertyFilterListener : public CypherBaseListener {
+class PropertyFilterListener : public TreeListener {
  public:
-  void enterOC_ListComprehension(CypherParser::OC_ListComprehensionContext* ctx) override {
-    reject("OC_ListComprehension", ctx);
+  explicit PropertyFilterListener(const SyntaxTree& ofFilter) : tree(ofFilter) {}
+
+  void enterOC_ListComprehension(const SyntaxTree::Node& node) const {
+    reject("OC_ListComprehension", node);
   }
 
-  void enterOC_PatternComprehension(CypherParser::OC_PatternComprehensionContext* ctx) override {
-    reject("OC_PatternComprehension", ctx);
+  void enterOC_PatternComprehension(const SyntaxTree::Node& node) const {
+    reject("OC_PatternComprehension", node);
   }
 
-  void enterOC_Quantifier(CypherParser::OC_QuantifierContext* ctx) override {
-    reject("OC_Quantifier", ctx);
+  void enterOC_Quantifier(const SyntaxTree::Node& node) const { reject("OC_Quantifier", node); }
+
+  void enterOC_PatternPredicate(const SyntaxTree::Node& node) const {
+    reject("OC_PatternPredicate", node);
   }
 
-  void enterOC_PatternPredicate(CypherParser::OC_PatternPredicateContext* ctx) override {
-    reject("OC_PatternPredicate", ctx);
+  void enterOC_ExistentialSubquery(const SyntaxTree::Node& node) const {
+    reject("OC_ExistentialSubquery", node);
   }
 
-  void enterOC_ExistentialSubquery(CypherParser::OC_ExistentialSubqueryContext* ctx) override {
-    reject("OC_ExistentialSubquery", ctx);
+ protected:
+  const SyntaxTree& tree;
+
+ private:
+  [[noreturn]] void reject(std::string_view typeName, const SyntaxTree::Node& node) const {
+    throw forbiddenElement(typeName,
+                           node.first == node.last ? tree.textOf(node) : std::string_view());
   }
 };
 
@@ -64,40 +66,35 @@ WideString quotedWide(std::string_view name) { return wide(quoteSymbolicName(nam
 std::map<WideString, VariableUsage> PropertyFilterExpressionInterrogator::computeVariablesUsages()
     const {
   struct Listener : PropertyFilterListener {
-    explicit Listener(const std::string& utf8Text) : source(utf8Text) {}
+    using PropertyFilterListener::PropertyFilterListener;
 
     // A variable counts where properties and labels can be read from it directly. In a filter
     // without forbidden elements that is every place where one stands.
-    void exitOC_PropertyOrLabelsExpression(
-        CypherParser::OC_PropertyOrLabelsExpressionContext* ctx) override {
-      CypherParser::OC_VariableContext* variable = ctx->oC_Atom()->oC_Variable();
+    void exitOC_PropertyOrLabelsExpression(const SyntaxTree::Node& node) {
+      const SyntaxTree::Node* const atom = tree.child(node, TreeRule::oC_Atom);
+      const SyntaxTree::Node* const variable = tree.child(*atom, TreeRule::oC_Variable);
       if (variable == nullptr) {
         return;
       }
       VariableAccess access;
-      for (CypherParser::OC_PropertyLookupContext* lookup : ctx->oC_PropertyLookup()) {
-        access.propertyPath.push_back(quotedWide(source.of(*lookup->oC_PropertyKeyName())));
-      }
-      if (CypherParser::OC_NodeLabelsContext* nodeLabels = ctx->oC_NodeLabels()) {
-        for (CypherParser::OC_NodeLabelContext* nodeLabel : nodeLabels->oC_NodeLabel()) {
-          access.labels.insert(quotedWide(source.of(*nodeLabel->oC_LabelName())));
+      tree.forEachChild(node, [&](const SyntaxTree::Node& child) {
+        if (child.rule == TreeRule::oC_PropertyKeyName) {
+          access.propertyPath.push_back(quotedWide(tree.textOf(child)));
+        } else if (child.rule == TreeRule::oC_LabelName) {
+          access.labels.insert(quotedWide(tree.textOf(child)));
         }
-      }
-      const std::string_view name = source.of(*variable->oC_SymbolicName());
+      });
+      const std::string_view name = tree.textOf(*variable);
       VariableUsage& usage = usages[quotedWide(name)];
       usage.accesses.insert(std::move(access));
       usage.writtenForms.insert(wide(name));
     }
 
-    SourceText source;
     std::map<WideString, VariableUsage> usages;
   };
 
-  Listener listener(utf8Text);
-  walk(listener, *parseTree,
-       {CypherParser::RuleOC_ListComprehension, CypherParser::RuleOC_PatternComprehension,
-        CypherParser::RuleOC_Quantifier, CypherParser::RuleOC_PatternPredicate,
-        CypherParser::RuleOC_ExistentialSubquery, CypherParser::RuleOC_PropertyOrLabelsExpression});
+  Listener listener(tree);
+  walk(tree, listener);
   return std::move(listener.usages);
 }
 

@@ -1,31 +1,28 @@
 #include "CypherInterrogator.h"
 
-#include <algorithm>
-#include <string>
-#include <unordered_map>
-#include <utility>
+#include <Exceptions.h>
 
-#include "CypherBaseListener.h"
-#include "SourceText.h"
+#include <algorithm>
+#include <forward_list>
+#include <map>
+#include <string>
+#include <string_view>
+
 #include "SymbolicName.h"
+#include "parser/CompiledParser.h"
+#include "parser/TreeWalk.h"
 #include "platform/StringUtf8ImplDetail.h"
 
 namespace vorn {
 
 namespace {
 
-struct Column {
-  std::string name;  // UTF-8, unquoted
-  CypherType type;
-};
-
-using Columns = std::vector<Column>;
-
 bool isNodeOrRelationship(CypherType type) {
   return type == CypherType::Node || type == CypherType::Relationship ||
          type == CypherType::NodeOrRelationship;
 }
 
+// The order in which several types are merged makes no difference.
 CypherType mergedType(CypherType one, CypherType other) {
   if (one == other) {
     return one;
@@ -34,137 +31,202 @@ CypherType mergedType(CypherType one, CypherType other) {
                                                                   : CypherType::Unknown;
 }
 
-// Names and number of the columns are the last branch's; columns that the other one lacks are left
-// as they are.
-void mergeBranch(Columns& columns, const Columns& branch) {
-  const std::size_t common = std::min(columns.size(), branch.size());
-  for (std::size_t i = 0; i < common; ++i) {
-    columns[i].type = mergedType(columns[i].type, branch[i].type);
+// Names without their quotes: views of the text, or of what is kept here.
+class Names {
+ public:
+  std::string_view of(std::string_view written) {
+    if (written.find('`') == std::string_view::npos) {
+      return written;
+    }
+    return unquoted_.emplace_front(unquoteSymbolicName(written));
   }
-}
+
+ private:
+  std::forward_list<std::string> unquoted_;
+};
+
+// The variables that a query has bound so far, and what a star stood for among them. A scope is not
+// copied at a star: most are not asked for it, and a text may hold many of both.
+class Scope {
+ public:
+  void bind(std::string_view name, CypherType type) {
+    const auto [entry, isNew] = types_.try_emplace(name, type);
+    if (isStarred_) {
+      beforeStar_.try_emplace(name, isNew ? unbound : entry->second);
+    }
+    entry->second = type;
+    longestName_ = std::max(longestName_, name.size());
+  }
+
+  /// The type of a variable that is written so; Unknown if there is none.
+  CypherType typeOf(std::string_view written, Names& names) const {
+    // Of three bytes at least one is left when quotes are taken out, but for two of them.
+    if (written.size() > 3 * longestName_ + 2) {
+      return CypherType::Unknown;
+    }
+    const auto found = types_.find(names.of(written));
+    return found == types_.end() ? CypherType::Unknown : found->second;
+  }
+
+  /// The star stands for what is bound now.
+  void star() {
+    unstar();
+    isStarred_ = true;
+  }
+
+  void unstar() {
+    isStarred_ = false;
+    beforeStar_.clear();
+  }
+
+  /// Calls the action with each name, in order, and type that the star stands for, if there is one.
+  template <typename Action>
+  void forEachStarred(const Action& action) const {
+    for (auto entry = types_.begin(); isStarred_ && entry != types_.end(); ++entry) {
+      const auto before = beforeStar_.find(entry->first);
+      const CypherType type = before == beforeStar_.end() ? entry->second : before->second;
+      if (type != unbound) {
+        action(entry->first, type);
+      }
+    }
+  }
+
+ private:
+  static constexpr auto unbound = static_cast<CypherType>(-1);
+
+  std::map<std::string_view, CypherType> types_;
+  std::map<std::string_view, CypherType> beforeStar_;  // of what was bound since then
+  std::size_t longestName_ = 0;
+  bool isStarred_ = false;
+};
+
+struct Column {
+  std::string_view written;  // as in the text
+  CypherType type;
+};
 
 }  // namespace
 
-CypherInterrogator::CypherInterrogator(const WideString& query)
-    : InterrogatorBase(query), parseTree(parser->oC_Cypher()) {}
+CypherInterrogator::CypherInterrogator(const WideString& query) : InterrogatorBase(query) {
+  switch (parseQuery(tree)) {
+    case Verdict::Accepted:
+      return;
+    case Verdict::Refused:
+      throw antlr4::ParseCancellationException("the text is no openCypher query");
+    case Verdict::TooDeep:
+      refuseAsTooDeep();
+  }
+}
 
 std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultColumnNamesAndTypes() {
   // All work is done when a construct is entered. So a projection inside an expression, which the
   // walk reaches after the projection around it, replaces that one's columns.
-  class ResultColumnNamesAndTypesListener : public CypherBaseListener {
+  class ResultColumnNamesAndTypesListener : public TreeListener {
    public:
-    explicit ResultColumnNamesAndTypesListener(const std::string& utf8Text) : source(utf8Text) {}
+    explicit ResultColumnNamesAndTypesListener(const SyntaxTree& ofQuery) : tree(ofQuery) {}
 
     // Names bound in an earlier branch stay visible in the later ones.
-    void enterOC_Union(CypherParser::OC_UnionContext* /*ctx*/) override {
-      previousBranches.push_back(std::exchange(columns, {}));
+    void enterOC_Union(const SyntaxTree::Node& /*node*/) {
+      std::size_t position = 0;
+      const auto merge = [&](std::string_view /*name*/, CypherType type) {
+        if (position == previousBranches.size()) {
+          previousBranches.push_back(type);
+        }
+        previousBranches[position] = mergedType(previousBranches[position], type);
+        ++position;
+      };
+      variables.forEachStarred(merge);
+      for (const Column& column : columns) {
+        merge(column.written, column.type);
+      }
+      clearColumns();
     }
 
-    void enterOC_Unwind(CypherParser::OC_UnwindContext* ctx) override {
-      bind(ctx->oC_Variable(), CypherType::Unknown);
-    }
+    void enterOC_Unwind(const SyntaxTree::Node& node) { bind(node, CypherType::Unknown); }
 
-    void enterOC_With(CypherParser::OC_WithContext* /*ctx*/) override { insideWith = true; }
+    void enterOC_With(const SyntaxTree::Node& /*node*/) { insideWith = true; }
 
-    void exitOC_With(CypherParser::OC_WithContext* /*ctx*/) override { insideWith = false; }
+    void exitOC_With(const SyntaxTree::Node& /*node*/) { insideWith = false; }
 
     // A RETURN inside a subquery of a WITH counts as part of that WITH and replaces the scope too.
-    void enterOC_ProjectionItems(CypherParser::OC_ProjectionItemsContext* ctx) override {
-      Scope newScope;
-      columns.clear();
-      for (antlr4::tree::ParseTree* child : ctx->children) {
-        if (auto* item = dynamic_cast<CypherParser::OC_ProjectionItemContext*>(child)) {
-          project(*item, newScope);
-        } else if (auto* terminal = dynamic_cast<antlr4::tree::TerminalNode*>(child);
-                   terminal != nullptr && source.of(*terminal->getSymbol()) == "*") {
-          projectAll(newScope);
-        }
+    void enterOC_ProjectionItems(const SyntaxTree::Node& node) {
+      clearColumns();
+      std::vector<Column> carried;
+      tree.forEachChild(node, [&](const SyntaxTree::Node& item) { project(item, carried); });
+      // It is the first item, if there is one.
+      const bool isStarred = tree.textOf(node.first) == "*";
+      if (isStarred) {
+        variables.star();
+      } else if (insideWith) {
+        variables = Scope();
       }
-      if (insideWith) {
-        variables = std::move(newScope);
+      for (const Column& variable : carried) {
+        variables.bind(names.of(variable.written), variable.type);
       }
     }
 
-    void enterOC_PatternPart(CypherParser::OC_PatternPartContext* ctx) override {
-      bind(ctx->oC_Variable(), CypherType::Path);
+    void enterOC_PatternPart(const SyntaxTree::Node& node) { bind(node, CypherType::Path); }
+
+    void enterOC_NodePattern(const SyntaxTree::Node& node) { bind(node, CypherType::Node); }
+
+    void enterOC_RelationshipDetail(const SyntaxTree::Node& node) {
+      bind(node, CypherType::Relationship);
     }
 
-    void enterOC_NodePattern(CypherParser::OC_NodePatternContext* ctx) override {
-      bind(ctx->oC_Variable(), CypherType::Node);
-    }
-
-    void enterOC_RelationshipDetail(CypherParser::OC_RelationshipDetailContext* ctx) override {
-      bind(ctx->oC_Variable(), CypherType::Relationship);
+    // Names and number of the columns are the last branch's; columns that another one lacks are
+    // left as they are.
+    [[nodiscard]] std::vector<std::pair<WideString, CypherType>> result() {
+      std::vector<std::pair<WideString, CypherType>> merged;
+      merged.reserve(columns.size());
+      const auto add = [&](std::string_view name, CypherType type) {
+        const std::size_t position = merged.size();
+        merged.emplace_back(StringUtf8ImplDetail::StringUtf8ToWideCharImpl(name),
+                            position < previousBranches.size()
+                                ? mergedType(type, previousBranches[position])
+                                : type);
+      };
+      variables.forEachStarred(add);
+      for (const Column& column : columns) {
+        add(names.of(column.written), column.type);
+      }
+      return merged;
     }
 
    private:
-    using Scope = std::unordered_map<std::string, Column>;
-
-    [[nodiscard]] std::string nameOf(const antlr4::ParserRuleContext& context) const {
-      return unquoteSymbolicName(source.of(context));
-    }
-
-    static void set(Scope& scope, const Column& column) {
-      scope.insert_or_assign(column.name, column);
-    }
-
-    void bind(CypherParser::OC_VariableContext* variable, CypherType type) {
-      if (variable != nullptr) {
-        set(variables, {nameOf(*variable->oC_SymbolicName()), type});
+    void bind(const SyntaxTree::Node& node, CypherType type) {
+      if (const auto* const variable = tree.child(node, TreeRule::oC_Variable)) {
+        variables.bind(names.of(tree.textOf(*variable)), type);
       }
     }
 
-    void project(CypherParser::OC_ProjectionItemContext& item, Scope& newScope) {
-      const std::string exprText = nameOf(*item.oC_Expression());
-      const auto found = variables.find(exprText);
-      const CypherType type = found == variables.end() ? CypherType::Unknown : found->second.type;
-      if (item.AS() != nullptr) {
-        const Column column{nameOf(*item.oC_Variable()->oC_SymbolicName()), type};
-        set(newScope, column);
-        columns.push_back(column);
-      } else {
-        // A bound variable of unknown kind passes a WITH only under an alias, be it its own name.
-        if (type != CypherType::Unknown) {
-          set(newScope, found->second);
-        }
-        columns.push_back({exprText, type});
+    void project(const SyntaxTree::Node& item, std::vector<Column>& carried) {
+      const std::string_view written = tree.textOf(*tree.child(item, TreeRule::oC_Expression));
+      const CypherType type = variables.typeOf(written, names);
+      const auto* const alias = tree.child(item, TreeRule::oC_Variable);
+      columns.push_back({alias == nullptr ? written : tree.textOf(*alias), type});
+      // A bound variable of unknown kind passes a WITH only under an alias, be it its own name.
+      if (insideWith && (alias != nullptr || type != CypherType::Unknown)) {
+        carried.push_back(columns.back());
       }
     }
 
-    void projectAll(Scope& newScope) {
-      for (const auto& [name, column] : variables) {
-        newScope.emplace(name, column);
-        columns.push_back(column);
-      }
-      // The star is the first item, so these are all the columns so far.
-      std::sort(columns.begin(), columns.end(),
-                [](const Column& left, const Column& right) { return left.name < right.name; });
+    void clearColumns() {
+      columns.clear();
+      variables.unstar();
     }
 
-    SourceText source;
-
-   public:
+    const SyntaxTree& tree;
+    Names names;
     Scope variables;
     bool insideWith = false;
-    Columns columns;
-    std::vector<Columns> previousBranches;
+    std::vector<Column> columns;               // of the last projection, behind those of a star
+    std::vector<CypherType> previousBranches;  // of the columns, merged by position
   };
 
-  if (!resultColumns.empty()) {
-    return resultColumns;
-  }
-  ResultColumnNamesAndTypesListener listener(utf8Text);
-  walk(listener, *parseTree,
-       {CypherParser::RuleOC_Union, CypherParser::RuleOC_Unwind, CypherParser::RuleOC_With,
-        CypherParser::RuleOC_ProjectionItems, CypherParser::RuleOC_PatternPart,
-        CypherParser::RuleOC_NodePattern, CypherParser::RuleOC_RelationshipDetail});
-  for (const Columns& branch : listener.previousBranches) {
-    mergeBranch(listener.columns, branch);
-  }
-  resultColumns.reserve(listener.columns.size());
-  for (const Column& column : listener.columns) {
-    resultColumns.emplace_back(StringUtf8ImplDetail::StringUtf8ToWideCharImpl(column.name),
-                               column.type);
+  if (resultColumns.empty()) {
+    ResultColumnNamesAndTypesListener listener(tree);
+    walk(tree, listener);
+    resultColumns = listener.result();
   }
   return resultColumns;
 }

@@ -3,7 +3,6 @@
 #include <map>
 #include <unordered_map>
 
-#include "CypherParser.h"
 #include "InterrogatorBase.h"
 
 namespace vorn {
@@ -13,7 +12,7 @@ namespace vorn {
 class PropertyFilterExpressionInterrogator : private InterrogatorBase {
  public:
   /// Throws antlr4::ParseCancellationException if `expression` begins with no openCypher
-  /// expression.
+  /// expression, and std::length_error if it nests too deeply for the stack.
   explicit PropertyFilterExpressionInterrogator(const WideString& expression);
 
   /// Throws std::logic_error at the first element that has no place in a property filter.
@@ -22,9 +21,6 @@ class PropertyFilterExpressionInterrogator : private InterrogatorBase {
   /// Does not validate.
   [[nodiscard]] WideString replaceVariableNames(
       const std::unordered_map<WideString, WideString>& renames) const;
-
- private:
-  CypherParser::OC_ExpressionContext* parseTree;  // the parser's
 };
 
 }  // namespace vorn

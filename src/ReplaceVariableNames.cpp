@@ -2,10 +2,9 @@
 #include <string_view>
 #include <utility>
 
-#include "CypherBaseListener.h"
 #include "PropertyFilterExpressionInterrogator.h"
-#include "SourceText.h"
 #include "SymbolicName.h"
+#include "parser/TreeWalk.h"
 #include "platform/StringUtf8ImplDetail.h"
 
 namespace vorn {
@@ -20,14 +19,13 @@ std::string quotedUtf8(const WideString& name) {
 
 WideString PropertyFilterExpressionInterrogator::replaceVariableNames(
     const std::unordered_map<WideString, WideString>& renames) const {
-  // White space and comments are tokens of the tree, so its terminals in text order are the text.
-  // Unlike the search for usages this does not validate: variables inside forbidden elements are
-  // renamed too.
-  struct Listener : CypherBaseListener {
-    explicit Listener(const std::string& utf8Text) : source(utf8Text) {}
+  // White space and comments are tokens too, so the tokens in text order are the text. Unlike the
+  // search for usages this does not validate: variables inside forbidden elements are renamed too.
+  struct Listener : TreeListener {
+    explicit Listener(const SyntaxTree& ofFilter) : tree(ofFilter) {}
 
-    void visitTerminal(antlr4::tree::TerminalNode* node) override {
-      const std::string_view text = source.of(*node->getSymbol());
+    void visitTerminal(std::size_t token) {
+      const std::string_view text = tree.textOf(token);
       if (!insideVariable) {
         output += text;
         return;
@@ -36,28 +34,24 @@ WideString PropertyFilterExpressionInterrogator::replaceVariableNames(
       output += renamed == renames.end() ? text : std::string_view(renamed->second);
     }
 
-    void enterOC_Variable(CypherParser::OC_VariableContext* /*ctx*/) override {
-      insideVariable = true;
-    }
+    void enterOC_Variable(const SyntaxTree::Node& /*node*/) { insideVariable = true; }
 
-    void exitOC_Variable(CypherParser::OC_VariableContext* /*ctx*/) override {
-      insideVariable = false;
-    }
+    void exitOC_Variable(const SyntaxTree::Node& /*node*/) { insideVariable = false; }
 
-    SourceText source;
+    const SyntaxTree& tree;
     std::string output;                                    // UTF-8
     std::unordered_map<std::string, std::string> renames;  // UTF-8, back-quoted on both sides
     bool insideVariable = false;
   };
 
-  Listener listener(utf8Text);
+  Listener listener(tree);
   listener.output.reserve(2 * utf8Text.size());
   listener.renames.reserve(renames.size());
   for (const auto& [oldName, newName] : renames) {
     std::string replacement = quotedUtf8(newName);
     listener.renames.insert_or_assign(quotedUtf8(oldName), std::move(replacement));
   }
-  walk(listener, *parseTree, {CypherParser::RuleOC_Variable});
+  walk<Terminals::Visited>(tree, listener);
   return StringUtf8ImplDetail::StringUtf8ToWideCharImpl(listener.output);
 }
 

@@ -15,7 +15,7 @@ fail() {
 build=$1
 seconds=$2
 shift 2
-[ $# -gt 0 ] || set -- columns usages renaming strings grammar
+[ $# -gt 0 ] || set -- columns usages renaming strings grammar parser
 past=$(cd "$(dirname "$0")/.." && pwd)/fuzz/findings
 log=$build/fuzz.log
 

@@ -8,8 +8,6 @@
 
 
 #undef NULL
-#include <bitset>
-#include <memory_resource>
 
 
 using namespace antlrcpp;

@@ -1,10 +1,15 @@
 #include "antlr/AntlrPipeline.h"
 
 #include <ANTLRInputStream.h>
+#include <CommonTokenFactory.h>
 #include <CommonTokenStream.h>
+
+#include <cstddef>
+#include <vector>
 
 #include "CypherLexer.h"
 #include "antlr/CallPredictor.h"
+#include "antlr/NeverDestroyed.h"
 #include "antlr/RecogniserTables.h"
 #include "antlr/TableLexerSimulator.h"
 #include "antlr/ThrowingErrorListener.h"
@@ -12,6 +17,43 @@
 namespace vorn {
 
 namespace {
+
+using antlr4::tree::ParseTreeTracker;
+using Nodes = std::vector<antlr4::tree::ParseTree*>;
+
+// The tracker that owns the nodes is a class with private members and no operation to make room.
+// An explicit instantiation may name them.
+Nodes& nodesOf(ParseTreeTracker& tracker);
+template <Nodes ParseTreeTracker::*member>
+struct NodesOf {
+  friend Nodes& nodesOf(ParseTreeTracker& tracker) { return tracker.*member; }
+};
+template struct NodesOf<&ParseTreeTracker::_allocated>;
+
+// The tracker loses a node that it finds no room for, so that there always is room for the next
+// terminal node and the next rule.
+class LeakFreeParser final : public CypherParser {
+ public:
+  explicit LeakFreeParser(antlr4::TokenStream* input) : CypherParser(input) { makeRoom(); }
+
+  void enterRule(antlr4::ParserRuleContext* context, std::size_t state, std::size_t rule) override {
+    makeRoom();
+    CypherParser::enterRule(context, state, rule);
+  }
+
+  antlr4::Token* consume() override {
+    makeRoom();
+    return CypherParser::consume();
+  }
+
+ private:
+  void makeRoom() {
+    Nodes& nodes = nodesOf(getTreeTracker());
+    if (nodes.capacity() - nodes.size() < 2) {
+      nodes.reserve(2 * nodes.size() + 2);
+    }
+  }
+};
 
 // The runtime installs a listener that prints to the console; nothing may reach it.
 void makeErrorsFatal(antlr4::Recognizer& recognizer) {
@@ -26,9 +68,11 @@ AntlrPipeline::AntlrPipeline(std::string_view utf8)
   buildRecogniserTables();
   lexer_ = std::make_unique<CypherLexer>(input_.get());
   makeErrorsFatal(*lexer_);
+  // The runtime's own factory is gone at the end of the process.
+  lexer_->setTokenFactory(&neverDestroyed<antlr4::CommonTokenFactory>());
   lexer_->setInterpreter(new TableLexerSimulator(*lexer_));
   tokens_ = std::make_unique<antlr4::CommonTokenStream>(lexer_.get());
-  parser_ = std::make_unique<CypherParser>(tokens_.get());
+  parser_ = std::make_unique<LeakFreeParser>(tokens_.get());
   makeErrorsFatal(*parser_);
   parser_->setInterpreter(new CallPredictor(*parser_));
 }

@@ -31,8 +31,11 @@ using antlr4::atn::PredictionModeClass;
 
 namespace {
 
+// In units of a step along what is known already, which takes some 0.2 us; to reach a configuration
+// takes 2 to 3 us. Drawn and damaged filters need 8,400 configurations at most, those of 500
+// operators 3,200, eight list comprehensions inside each other 24,000.
 constexpr std::size_t workOfConfiguration = 16;
-constexpr std::size_t maxWork = 250'000 * workOfConfiguration;
+constexpr std::size_t maxWork = 100'000 * workOfConfiguration;
 
 }  // namespace
 

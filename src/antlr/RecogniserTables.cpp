@@ -1,5 +1,11 @@
 #include "antlr/RecogniserTables.h"
 
+#include <atn/PredictionContext.h>
+#include <atn/SemanticContext.h>
+
+#include <memory>
+
+#include "antlr/NeverDestroyed.h"
 #include "platform/Unloading.h"
 
 namespace vorn {
@@ -11,6 +17,14 @@ void releaseLexerTables();
 void releaseParserTables();
 
 namespace {
+
+// The runtime's static objects go at the end of the process, while calls may still need them.
+struct KeptAlive {
+  std::shared_ptr<const antlr4::atn::PredictionContext> context =
+      antlr4::atn::PredictionContext::EMPTY;
+  std::shared_ptr<const antlr4::atn::SemanticContext> condition =
+      antlr4::atn::SemanticContext::NONE;
+};
 
 // For what is done once: an exception that leaves `action` leaves it undone.
 template <typename Action>
@@ -26,8 +40,10 @@ void buildRecogniserTables() {
     runWhenUnloaded([] {
       releaseParserTables();
       releaseLexerTables();
+      neverDestroyed<KeptAlive>() = {nullptr, nullptr};
     });
   });
+  neverDestroyed<KeptAlive>();
   static const bool lexerBuilt = done(buildLexerTables);
   static const bool parserBuilt = done(buildParserTables);
   static_cast<void>(released && lexerBuilt && parserBuilt);

@@ -5,7 +5,7 @@
 #include <LexerNoViableAltException.h>
 #include <Token.h>
 
-#include "antlr/LexerTables.h"
+#include "LexerTables.h"
 
 namespace vorn {
 
@@ -16,21 +16,26 @@ std::size_t TableLexerSimulator::match(antlr4::CharStream* input, std::size_t /*
   _startIndex = input->index();
   std::size_t type = 0;
   SimState end;
-  std::size_t symbol = input->LA(1);
-  LexerTables::State state = LexerTables::start;
-  while ((state = LexerTables::nextState(state, static_cast<char32_t>(symbol))) !=
-         LexerTables::dead) {
-    if (symbol != antlr4::Token::EOF) {
-      consume(input);
-    }
-    if (const std::size_t ending = LexerTables::tokenType(state); ending != 0) {
+  const auto accepts = [&](std::size_t ending) {
+    if (ending != 0) {
       type = ending;
       end = {input->index(), _line, _charPositionInLine, nullptr};
     }
-    if (symbol == antlr4::Token::EOF) {
+  };
+  std::uint16_t state = LexerTables::start;
+  std::size_t symbol = input->LA(1);
+  for (; symbol != antlr4::Token::EOF; symbol = input->LA(1)) {
+    const std::uint8_t characterClass = LexerTables::classOf(static_cast<std::uint32_t>(symbol));
+    const std::uint16_t next = LexerTables::transitions[state + characterClass];
+    if (next == LexerTables::dead) {
       break;
     }
-    symbol = input->LA(1);
+    state = next;
+    consume(input);
+    accepts(LexerTables::typeOf(state));
+  }
+  if (symbol == antlr4::Token::EOF) {
+    accepts(LexerTables::typeAtEnd(state));
   }
   if (type != 0) {
     accept(input, nullptr, _startIndex, end.index, end.line, end.charPos);

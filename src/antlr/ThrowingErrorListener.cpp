@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string>
 
-#include "NeverDestroyed.h"
+#include "antlr/NeverDestroyed.h"
 
 namespace {
 

@@ -4,73 +4,54 @@
 #include <Token.h>
 #include <tree/ParseTreeWalker.h>
 
-#include <array>
-#include <cstddef>
+#include <cstdint>
+#include <vector>
 
 #include "CypherBaseListener.h"
-#include "CypherParser.h"
+#include "parser/SyntaxTree.h"
 
 namespace vorn {
 
 namespace {
 
-// Stands in for the generated table: the TreeRule of each rule of the grammar, or -1.
-constexpr std::array<std::int8_t, CypherParser::RuleOC_Dash + 1> treeRules() {
-  std::array<std::int8_t, CypherParser::RuleOC_Dash + 1> rules{};
-  for (std::size_t i = 0; i < rules.size(); ++i) {
-    rules[i] = -1;
-  }
-  std::int8_t next = 0;
-  for (const std::size_t rule :
-       {CypherParser::RuleOC_Union, CypherParser::RuleOC_Unwind, CypherParser::RuleOC_With,
-        CypherParser::RuleOC_ProjectionItems, CypherParser::RuleOC_ProjectionItem,
-        CypherParser::RuleOC_Expression, CypherParser::RuleOC_PatternPart,
-        CypherParser::RuleOC_NodePattern, CypherParser::RuleOC_RelationshipDetail,
-        CypherParser::RuleOC_PropertyOrLabelsExpression, CypherParser::RuleOC_Atom,
-        CypherParser::RuleOC_ListComprehension, CypherParser::RuleOC_PatternComprehension,
-        CypherParser::RuleOC_Quantifier, CypherParser::RuleOC_PatternPredicate,
-        CypherParser::RuleOC_ExistentialSubquery, CypherParser::RuleOC_Variable,
-        CypherParser::RuleOC_PropertyKeyName, CypherParser::RuleOC_LabelName}) {
-    rules[rule] = next++;
-  }
-  return rules;
-}
-constexpr auto treeRuleOf = treeRules();
-
-class Flattener final : public CypherBaseListener {
+class TreeConverter final : public CypherBaseListener {
  public:
+  explicit TreeConverter(std::vector<SyntaxTree::Node>& nodes) : nodes_(nodes) {}
+
   void enterEveryRule(antlr4::ParserRuleContext* context) override {
-    const std::int8_t rule = treeRuleOf[context->getRuleIndex()];
-    if (rule >= 0) {
-      open_.push_back(nodes.size());
-      nodes.push_back({static_cast<TreeRule>(rule), indexOf(*context->getStart()),
-                       indexOf(*context->getStop()), 0});
+    if (const std::int8_t rule = treeRuleOf(*context); rule >= 0) {
+      nodes_.push_back({static_cast<TreeRule>(rule), indexOf(*context->getStart()),
+                        indexOf(*context->getStop()), 0, open_});
+      open_ = static_cast<std::uint32_t>(nodes_.size() - 1);
     }
   }
 
   void exitEveryRule(antlr4::ParserRuleContext* context) override {
-    if (treeRuleOf[context->getRuleIndex()] >= 0) {
-      nodes[open_.back()].end = static_cast<std::uint32_t>(nodes.size());
-      open_.pop_back();
+    if (treeRuleOf(*context) >= 0) {
+      nodes_[open_].end = static_cast<std::uint32_t>(nodes_.size());
+      open_ = nodes_[open_].parent;
     }
   }
 
-  std::vector<Node> nodes;
-
  private:
+  static std::int8_t treeRuleOf(const antlr4::ParserRuleContext& context) {
+    return treeRuleOfParserRule[context.getRuleIndex()];
+  }
+
   static std::uint32_t indexOf(const antlr4::Token& token) {
     return static_cast<std::uint32_t>(token.getTokenIndex());
   }
 
-  std::vector<std::size_t> open_;  // nodes that have not ended
+  std::vector<SyntaxTree::Node>& nodes_;
+  std::uint32_t open_ = SyntaxTree::none;  // the innermost node that has not ended
 };
 
 }  // namespace
 
-std::vector<Node> flatten(antlr4::ParserRuleContext& tree) {
-  Flattener flattener;
-  antlr4::tree::ParseTreeWalker::DEFAULT.walk(&flattener, &tree);
-  return std::move(flattener.nodes);
+void convertNodes(antlr4::ParserRuleContext& from, SyntaxTree& to) {
+  to.nodes.clear();
+  TreeConverter converter(to.nodes);
+  antlr4::tree::ParseTreeWalker::DEFAULT.walk(&converter, &from);
 }
 
 }  // namespace vorn

@@ -1,44 +1,14 @@
 #pragma once
 
-#include <cstdint>
-#include <vector>
-
 namespace antlr4 {
 class ParserRuleContext;
 }  // namespace antlr4
 
 namespace vorn {
 
-// Stands in for what the parser's tree and the table of its rules will declare.
-enum class TreeRule : std::uint8_t {
-  Union,
-  Unwind,
-  With,
-  ProjectionItems,
-  ProjectionItem,
-  Expression,
-  PatternPart,
-  NodePattern,
-  RelationshipDetail,
-  PropertyOrLabelsExpression,
-  Atom,
-  ListComprehension,
-  PatternComprehension,
-  Quantifier,
-  PatternPredicate,
-  ExistentialSubquery,
-  Variable,
-  PropertyKeyName,
-  LabelName
-};
-struct Node {
-  TreeRule rule;
-  std::uint32_t first;
-  std::uint32_t last;
-  std::uint32_t end;
-};
+struct SyntaxTree;
 
-/// The nodes of the ANTLR tree that the analyses ask for, in text order.
-std::vector<Node> flatten(antlr4::ParserRuleContext& tree);
+/// Makes nodes of the tree of those in an ANTLR tree over the same tokens, in place of its own.
+void convertNodes(antlr4::ParserRuleContext& from, SyntaxTree& to);
 
 }  // namespace vorn

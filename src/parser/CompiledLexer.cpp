@@ -21,41 +21,39 @@ namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-/// A code point's class, and how many bytes it takes.
-struct Character {
-  std::uint8_t itsClass;
-  std::uint8_t size;
-};
-
 class Lexer {
  public:
   explicit Lexer(SyntaxTree& tree)
-      : tree_(tree), text_(reinterpret_cast<const unsigned char*>(tree.text.data())) {}
+      : tree_(tree),
+        text_(reinterpret_cast<const unsigned char*>(tree.text.data())),
+        size_(tree.text.size()) {}
 
   void run() {
-    const std::size_t size = tree_.text.size();
-    if (size >= std::numeric_limits<std::uint32_t>::max()) {
+    if (size_ >= std::numeric_limits<std::uint32_t>::max()) {
       throw std::length_error("the openCypher text is too long");
     }
-    // Tokens of three bytes are usual, shorter ones are not rare.
-    constexpr std::size_t most = std::size_t{1} << 20U;
-    const std::size_t expected = std::min(size / 2, most) + 2 * SyntaxTree::longestLookahead;
-    tree_.types.reserve(expected);
-    tree_.starts.reserve(expected);
+    std::size_t count = 0;
     std::size_t at =
         tree_.text.substr(0, byteOrderMark.size()) == byteOrderMark ? byteOrderMark.size() : 0;
-    while (at < size) {
+    makeRoom(std::min(size_ / 2, mostAtOnce));
+    while (at < size_) {
       const Token token = tokenAt(at);
       if (token.type == 0) {
         break;
       }
-      tree_.types.push_back(token.type);
-      tree_.starts.push_back(static_cast<std::uint32_t>(at));
+      if (count == tree_.starts.size() - 1) {
+        makeRoom(2 * count);
+      }
+      tree_.types[count] = token.type;
+      tree_.starts[count] = static_cast<std::uint32_t>(at);
+      ++count;
       at = token.end;
     }
-    tree_.isWhole = at == size;
-    tree_.starts.push_back(static_cast<std::uint32_t>(at));
-    tree_.types.insert(tree_.types.end(), SyntaxTree::longestLookahead + 1, SyntaxTree::endOfText);
+    tree_.isWhole = at == size_;
+    tree_.starts[count] = static_cast<std::uint32_t>(at);
+    tree_.starts.resize(count + 1);
+    tree_.types.resize(count);
+    tree_.types.resize(count + SyntaxTree::longestLookahead + 1, SyntaxTree::endOfText);
   }
 
  private:
@@ -64,47 +62,49 @@ class Lexer {
     std::size_t end;
   };
 
-  [[nodiscard]] Character characterAt(std::size_t at) const {
-    const unsigned lead = text_[at];
-    if (lead < 0x80) {
-      return {LexerTables::pages[0][lead], 1};
-    }
-    const auto bits = [&](std::size_t offset) { return text_[at + offset] & 0x3FU; };
-    if (lead < 0xE0) {
-      return {classOf((lead & 0x1FU) << 6U | bits(1)), 2};
-    }
-    if (lead < 0xF0) {
-      return {classOf((lead & 0x0FU) << 12U | bits(1) << 6U | bits(2)), 3};
-    }
-    return {classOf((lead & 0x07U) << 18U | bits(1) << 12U | bits(2) << 6U | bits(3)), 4};
+  // Tokens of three bytes are usual, shorter ones are not rare, and some texts are one long token.
+  static constexpr std::size_t mostAtOnce = std::size_t{1} << 20U;
+
+  void makeRoom(std::size_t tokens) {
+    constexpr std::size_t more = SyntaxTree::longestLookahead + 1;
+    tree_.types.resize(tokens + more);
+    tree_.starts.resize(tokens + more);
   }
 
-  static std::uint8_t classOf(unsigned codePoint) {
-    return LexerTables::pages[LexerTables::pageOf[codePoint >> 8U]][codePoint & 0xFFU];
+  // The class of the character there, and moves on behind it.
+  std::uint8_t takeCharacter(std::size_t& at) const {
+    const unsigned lead = text_[at++];
+    return lead < 0x80 ? LexerTables::pages[0][lead] : classBeyondAscii(lead, at);
+  }
+
+  std::uint8_t classBeyondAscii(unsigned lead, std::size_t& at) const {
+    const int following = lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
+    unsigned codePoint = lead & (0x3FU >> static_cast<unsigned>(following));
+    for (int i = 0; i < following; ++i) {
+      codePoint = codePoint << 6U | (text_[at++] & 0x3FU);
+    }
+    return LexerTables::classOf(codePoint);
   }
 
   Token tokenAt(std::size_t start) {
-    const std::size_t size = tree_.text.size();
     Token token{0, start};
     std::uint16_t acceptedState = LexerTables::start;
     std::uint16_t state = LexerTables::start;
     std::size_t at = start;
-    while (at < size) {
-      const Character character = characterAt(at);
-      const std::uint16_t next = LexerTables::transitions[state + character.itsClass];
-      if (next == LexerTables::dead) {
+    for (std::size_t next = at; next < size_; at = next) {
+      const std::uint16_t target = LexerTables::transitions[state + takeCharacter(next)];
+      if (target == LexerTables::dead) {
         break;
       }
-      state = next;
-      at += character.size;
+      state = target;
       if (const std::uint8_t type = LexerTables::typeOf(state); type != 0) {
-        token = {type, at};
+        token = {type, next};
         acceptedState = state;
-      } else if (hasFailed(state, at)) {
+      } else if (hasFailed(state, next)) {
         break;
       }
     }
-    if (at == size) {
+    if (at == size_) {
       if (const std::uint8_t type = LexerTables::typeAtEnd(state); type != 0) {
         return {type, at};
       }
@@ -121,17 +121,16 @@ class Lexer {
   }
 
   void rememberFailure(std::uint16_t state, std::size_t from, std::size_t to) {
-    failures_.resize(tree_.text.size() + 1);
+    failures_.resize(size_ + 1);
     for (std::size_t at = from; at < to;) {
-      const Character character = characterAt(at);
-      state = LexerTables::transitions[state + character.itsClass];
-      at += character.size;
+      state = LexerTables::transitions[state + takeCharacter(at)];
       failures_[at] = state;
     }
   }
 
   SyntaxTree& tree_;
   const unsigned char* text_;
+  std::size_t size_;
   std::vector<std::uint16_t> failures_;  // by place: the state that led to no token there, or 0
 };
 

@@ -47,7 +47,10 @@ class RuleParser {
  public:
   using Rule = bool (Rules::*)();
 
-  explicit RuleParser(SyntaxTree& tree) : tree_(tree), types_(tree.types.data()) {}
+  explicit RuleParser(SyntaxTree& tree) : tree_(tree), types_(tree.types.data()) {
+    // Some texts have more nodes than tokens, few have many more.
+    tree.nodes.reserve(tree.tokenCount());
+  }
 
   Verdict parse(Rule start) {
     const bool matches = tree_.isWhole && call(start) && position_ >= tree_.tokenCount();
@@ -72,22 +75,28 @@ class RuleParser {
   void skip(std::uint8_t type) { static_cast<void>(take(type)); }
   void skipOneOf(const TokenSet& types) { static_cast<void>(takeOneOf(types)); }
 
-  std::size_t open(TreeRule rule) {
-    if (!isTrial_) {
-      tree_.nodes.push_back({rule, position_, position_, 0});
+  std::uint32_t open(TreeRule rule) {
+    if (isTrial_) {
+      return SyntaxTree::none;
     }
-    return tree_.nodes.size() - 1;
+    tree_.nodes.push_back({rule, position_, position_, 0, parent_});
+    parent_ = static_cast<std::uint32_t>(tree_.nodes.size() - 1);
+    return parent_;
   }
 
-  void close(std::size_t node) {
+  void close(std::uint32_t place) {
     if (!isTrial_) {
-      tree_.nodes[node].last = position_ - 1;
-      tree_.nodes[node].end = static_cast<std::uint32_t>(tree_.nodes.size());
+      SyntaxTree::Node& node = tree_.nodes[place];
+      node.last = position_ - 1;
+      node.end = static_cast<std::uint32_t>(tree_.nodes.size());
+      parent_ = node.parent;
     }
   }
 
   [[nodiscard]] bool isStackUsedUp() {
-    isTooDeep_ = isTooDeep_ || stackPosition() < stackEnd_;
+    if (stackPosition() < stackEnd_) {
+      isTooDeep_ = isTooDeep_ || stackPosition() < knownStackEnd();
+    }
     return isTooDeep_;
   }
 
@@ -159,13 +168,26 @@ class RuleParser {
     return call(rules[trial.rule]);
   }
 
+  // To ask the system takes longer than to parse a short text, so that waits until a text nests.
+  std::uintptr_t knownStackEnd() {
+    if (!isStackKnown_) {
+      isStackKnown_ = true;
+      stackEnd_ = stackEnd(stackPosition()) + stackReserve;
+    }
+    return stackEnd_;
+  }
+
+  // Every stack has room for this.
+  static constexpr std::uintptr_t smallStack = std::uintptr_t{8} * 1024;
   // What the functions of rules between two checks of the stack may take, and what they call.
   static constexpr std::uintptr_t stackReserve = std::uintptr_t{16} * 1024;
 
   SyntaxTree& tree_;
   const std::uint8_t* types_;
-  std::uintptr_t stackEnd_ = stackEnd(stackPosition()) + stackReserve;
-  std::uint32_t position_ = 0;  // of the next token
+  std::uintptr_t stackEnd_ = stackPosition() - smallStack;
+  bool isStackKnown_ = false;
+  std::uint32_t position_ = 0;               // of the next token
+  std::uint32_t parent_ = SyntaxTree::none;  // the innermost node that is open
   bool isTrial_ = false;
   bool isTooDeep_ = false;
   std::vector<Trial> trials_;  // by token; none before the first trial within another

@@ -14,10 +14,12 @@ namespace vorn {
 struct SyntaxTree {
   struct Node {
     TreeRule rule;
-    std::uint32_t first;  // token
-    std::uint32_t last;   // token, not before the first
-    std::uint32_t end;    // the node behind the last one inside this one
+    std::uint32_t first;          // token
+    std::uint32_t last;           // token, not before the first
+    std::uint32_t end;            // the node behind the last one inside this one
+    std::uint32_t parent = none;  // the node around this one
   };
+  static constexpr std::uint32_t none = 0xFFFFFFFF;
 
   /// The type of what stands behind the last token.
   static constexpr std::uint8_t endOfText = 0;

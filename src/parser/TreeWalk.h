@@ -15,8 +15,8 @@ enum class Terminals { Skipped, Visited };
 /// before those inside it; between them of each token of the first node, if these are visited.
 template <Terminals terminals = Terminals::Skipped, typename Listener>
 void walk(const SyntaxTree& tree, Listener& listener) {
-  std::vector<std::uint32_t> open;
-  std::uint32_t token = tree.nodes.empty() ? 0 : tree.nodes.front().first;
+  const std::vector<SyntaxTree::Node>& nodes = tree.nodes;
+  std::uint32_t token = nodes.empty() ? 0 : nodes.front().first;
   const auto visitBefore = [&](std::uint32_t end) {
     if constexpr (terminals == Terminals::Visited) {
       for (; token < end; ++token) {
@@ -24,20 +24,15 @@ void walk(const SyntaxTree& tree, Listener& listener) {
       }
     }
   };
-  const auto leaveBefore = [&](std::size_t next) {
-    for (; !open.empty() && tree.nodes[open.back()].end <= next; open.pop_back()) {
-      const SyntaxTree::Node& node = tree.nodes[open.back()];
-      visitBefore(node.last + 1);
-      tellOfLeaving(listener, node);
+  for (std::uint32_t place = 0; place < nodes.size(); ++place) {
+    visitBefore(nodes[place].first);
+    tellOfEntering(listener, nodes[place]);
+    for (std::uint32_t ended = place; ended != SyntaxTree::none && nodes[ended].end == place + 1;
+         ended = nodes[ended].parent) {
+      visitBefore(nodes[ended].last + 1);
+      tellOfLeaving(listener, nodes[ended]);
     }
-  };
-  for (std::uint32_t next = 0; next < tree.nodes.size(); ++next) {
-    leaveBefore(next);
-    visitBefore(tree.nodes[next].first);
-    tellOfEntering(listener, tree.nodes[next]);
-    open.push_back(next);
   }
-  leaveBefore(tree.nodes.size());
 }
 
 }  // namespace vorn

@@ -5,11 +5,13 @@
 #include <CommonTokenStream.h>
 #include <Exceptions.h>
 
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "CypherLexer.h"
 #include "CypherParser.h"
+#include "ReferenceTables.h"
 #include "Subject.h"
 
 namespace compare {
@@ -30,9 +32,10 @@ struct BarePipeline {
 
   FirstErrorEnds errors;
   antlr4::ANTLRInputStream input;
-  bare::CypherLexer lexer;
+  vorn::CypherLexer lexer;
   antlr4::CommonTokenStream tokens;
-  bare::CypherParser parser;
+  vorn::CypherParser parser;
+  std::shared_ptr<ReferenceTables> tables;
   antlr4::ParserRuleContext* tree = nullptr;  // the parser's
 
   void run(Entry entry);

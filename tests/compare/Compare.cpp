@@ -31,6 +31,12 @@ using namespace compare;
 constexpr std::size_t processes = 2;
 /// With fewer texts not every alternative comes up.
 constexpr std::uint64_t textsThatCover = 100'000;
+/// Without the white space two keywords are one name.
+constexpr std::string_view impossible[] = {
+    "oC_Union, decision 7, alternative 2",
+    "oC_Union, decision 8, alternative 2",
+    "oC_ProjectionBody, decision 72, alternative 2",
+};
 constexpr std::uint64_t textsOfALongRun = 20'000'000;
 
 Options optionsFrom(const std::vector<std::string_view>& arguments) {
@@ -83,22 +89,31 @@ void runAll(const Options& options, Report* reports) {
 }
 
 Counts operator+(const Counts& one, const Counts& other) {
-  return {one.texts + other.texts, one.accepted + other.accepted, one.refused + other.refused,
-          one.equalMessages + other.equalMessages, one.refusedByBound + other.refusedByBound};
+  return {one.texts + other.texts,
+          one.accepted + other.accepted,
+          one.refused + other.refused,
+          one.equalMessages + other.equalMessages,
+          one.refusedByBound + other.refusedByBound,
+          one.microseconds + other.microseconds};
 }
 
 void printRow(const char* name, const Counts& counts) {
-  std::printf("%-24s %10llu %10llu %10llu %14llu %9llu\n", name,
-              static_cast<unsigned long long>(counts.texts),
-              static_cast<unsigned long long>(counts.accepted),
-              static_cast<unsigned long long>(counts.refused),
-              static_cast<unsigned long long>(counts.equalMessages),
-              static_cast<unsigned long long>(counts.refusedByBound));
+  const auto print = [](std::uint64_t number, int width) {
+    std::printf(" %*llu", width, static_cast<unsigned long long>(number));
+  };
+  std::printf("%-24s", name);
+  print(counts.texts, 10);
+  print(counts.accepted, 10);
+  print(counts.refused, 10);
+  print(counts.equalMessages, 14);
+  print(counts.refusedByBound, 9);
+  print(counts.texts == 0 ? 0 : counts.microseconds / counts.texts, 10);
+  std::printf("\n");
 }
 
 Counts printCounts(const Report* reports) {
-  std::printf("%-24s %10s %10s %10s %14s %9s\n", "texts", "compared", "accepted", "refused",
-              "same message", "by bound");
+  std::printf("%-24s %10s %10s %10s %14s %9s %10s\n", "texts", "compared", "accepted", "refused",
+              "same message", "by bound", "µs a text");
   Counts all{};
   for (std::size_t source = 0; source < sourceCount; ++source) {
     Counts sum{};
@@ -124,20 +139,30 @@ void printSequences(const Report* reports) {
   }
 }
 
+unsigned long long chains(const Templates& templates, Templates::Kind kind, std::size_t length) {
+  return templates.count(kind, length);
+}
+
 void printPairs(const Report* reports) {
   const Templates templates;
   std::size_t met = 0;
   for (std::size_t pair = 0; pair < templates.pairCount(); ++pair) {
     met += reports[0].met[pair] || reports[processes - 1].met[pair] ? 1 : 0;
   }
-  std::printf("constructs: %zu pairs tried, %zu of them in accepted texts\n", templates.pairCount(),
-              met);
+  std::printf(
+      "constructs: %zu pairs, %zu of them in accepted texts; chains of two: %llu and %llu, "
+      "of three: %llu and %llu\n",
+      templates.pairCount(), met, chains(templates, Templates::Kind::Query, 2),
+      chains(templates, Templates::Kind::Expression, 2),
+      chains(templates, Templates::Kind::Query, 3),
+      chains(templates, Templates::Kind::Expression, 3));
 }
 
 /// Whether accepted texts have taken every alternative.
 bool printCoverage(const Report* reports) {
   const Coverage coverage;
   std::size_t taken = 0;
+  std::size_t missing = 0;
   std::uint64_t fewest = UINT64_MAX;
   std::string rarest;
   for (std::size_t i = 0; i < coverage.counts().size(); ++i) {
@@ -145,20 +170,26 @@ bool printCoverage(const Report* reports) {
     for (std::size_t share = 0; share < processes; ++share) {
       sum += reports[share].taken[i];
     }
+    const std::string name = coverage.nameOf(i);
     if (sum == 0) {
-      std::printf("never taken: %s\n", coverage.nameOf(i).c_str());
+      if (std::find(std::begin(impossible), std::end(impossible), name) == std::end(impossible)) {
+        std::printf("never taken: %s\n", name.c_str());
+        ++missing;
+      }
       continue;
     }
     ++taken;
     if (sum < fewest) {
       fewest = sum;
-      rarest = coverage.nameOf(i);
+      rarest = name;
     }
   }
   std::printf(
-      "grammar: %zu of %zu alternatives taken by accepted texts; the rarest %llu times: %s\n",
-      taken, coverage.counts().size(), static_cast<unsigned long long>(fewest), rarest.c_str());
-  return taken == coverage.counts().size();
+      "grammar: %zu of %zu alternatives taken by accepted texts, %zu of the others possible; "
+      "the rarest %llu times: %s\n",
+      taken, coverage.counts().size(), missing, static_cast<unsigned long long>(fewest),
+      rarest.c_str());
+  return missing == 0;
 }
 
 void printSlowest(const Report* reports) {

@@ -28,7 +28,6 @@ class Coverage::Recorder {
  public:
   Recorder() : anyPipeline(""), atn(anyPipeline.parser.getATN()) {
     for (std::size_t i = 0; i < atn.getNumberOfDecisions(); ++i) {
-      decisions.emplace_back(atn.getDecisionState(i), i);
       first.push_back(counts.size());
       counts.resize(counts.size() + slotsOf(i));
     }
@@ -64,8 +63,6 @@ class Coverage::Recorder {
 
   BarePipeline anyPipeline;
   const ATN& atn;
-  std::vector<antlr4::dfa::DFA> decisions;
-  antlr4::atn::PredictionContextCache contexts;
   Rounds rounds;
   std::vector<std::uint32_t> counts;
 
@@ -90,9 +87,8 @@ class Coverage::Recorder {
 /// Tells the recorder of each decision.
 class Coverage::Simulator final : public antlr4::atn::ParserATNSimulator {
  public:
-  Simulator(antlr4::Parser& itsParser, Recorder& itsRecorder)
-      : ParserATNSimulator(&itsParser, itsRecorder.atn, itsRecorder.decisions,
-                           itsRecorder.contexts),
+  Simulator(antlr4::Parser& itsParser, ReferenceTables& tables, Recorder& itsRecorder)
+      : ParserATNSimulator(&itsParser, itsRecorder.atn, tables.decisions, tables.contexts),
         recorder(itsRecorder) {}
 
   std::size_t adaptivePredict(antlr4::TokenStream* input, std::size_t decision,
@@ -116,10 +112,10 @@ void Coverage::add(std::string_view accepted, Entry entry) {
                                         pipeline.parser.getRuleNames(), recorder->atn,
                                         &pipeline.tokens);
   interpreter.removeErrorListeners();
-  interpreter.setInterpreter(new Simulator(interpreter, *recorder));
+  interpreter.setInterpreter(new Simulator(interpreter, *pipeline.tables, *recorder));
   recorder->rounds.clear();
-  interpreter.parse(entry == Entry::Query ? bare::CypherParser::RuleOC_Cypher
-                                          : bare::CypherParser::RuleOC_Expression);
+  interpreter.parse(entry == Entry::Query ? vorn::CypherParser::RuleOC_Cypher
+                                          : vorn::CypherParser::RuleOC_Expression);
 }
 
 const std::vector<std::uint32_t>& Coverage::counts() const { return recorder->counts; }

@@ -13,7 +13,9 @@ namespace {
 
 using Lexer = vorn::CypherLexer;
 
-constexpr std::size_t deepest = 400;  // rules: an atom inside an atom takes fifteen
+std::uint32_t indexOf(const Element& element) {
+  return static_cast<std::uint32_t>(&element - cypherGrammar.elements);
+}
 
 const Element& linked(const Element& element, std::size_t i) {
   return cypherGrammar.elements[cypherGrammar.links[element.first + i]];
@@ -31,6 +33,25 @@ bool isToken(const Element& element, std::size_t type) {
   return element.kind == ElementKind::token && element.number == type;
 }
 
+bool isChoiceOfTokens(const Element& element) {
+  for (std::size_t i = 0; i < element.count; ++i) {
+    if (linked(element, i).kind != ElementKind::token) {
+      return false;
+    }
+  }
+  return true;
+}
+
+// The many ways to write a dash, a name or a key make prediction slow and teach little.
+std::size_t usualToken(const Element& choice) {
+  for (std::size_t i = 0; i < choice.count; ++i) {
+    if (isToken(linked(choice, i), Lexer::UnescapedSymbolicName)) {
+      return i;
+    }
+  }
+  return 0;
+}
+
 }  // namespace
 
 std::string joined(const Pieces& pieces) {
@@ -42,16 +63,17 @@ std::string joined(const Pieces& pieces) {
 }
 
 Drawing::Drawing(Random& itsRandom) : random(itsRandom) {
-  std::vector<bool> seen;
-  findTokens(cypherGrammar.elements[cypherGrammar.query], seen);
+  explore(cypherGrammar.elements[cypherGrammar.query]);
+  known.resize(rules.size());
   std::sort(edges.begin(), edges.end());
   edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
 }
 
-void Drawing::findTokens(const Element& element, std::vector<bool>& seen) {
-  const auto index = static_cast<std::size_t>(&element - cypherGrammar.elements);
+void Drawing::explore(const Element& element) {
+  const std::uint32_t index = indexOf(element);
   if (index >= seen.size()) {
     seen.resize(index + 1);
+    parents.resize(index + 1);
   }
   if (seen[index]) {
     return;
@@ -72,21 +94,64 @@ void Drawing::findTokens(const Element& element, std::vector<bool>& seen) {
   }
   if (element.kind == ElementKind::token) {
     tokens.push_back(&element);
+  } else if (element.kind == ElementKind::rule) {
+    rules.push_back(&element);
   }
-  if (element.first + element.count > uses.size()) {
-    uses.resize(element.first + element.count);
-    rounds.resize(3 * uses.size());
-  }
+  uses.resize(std::max<std::size_t>(uses.size(), element.first + element.count));
   for (std::size_t i = 0; i < element.count; ++i) {
-    findTokens(linked(element, i), seen);
+    explore(linked(element, i));
+    parents[indexOf(linked(element, i))].push_back(index);
   }
+}
+
+const Drawing::Distances& Drawing::distancesTo(std::size_t rule) {
+  Distances& found = known[rule];
+  if (!found.empty()) {
+    return found;
+  }
+  found.assign(parents.size(), never);
+  std::vector<std::uint32_t> reached{indexOf(*rules[rule])};
+  found[reached.front()] = 0;
+  for (std::size_t i = 0; i < reached.size(); ++i) {
+    for (const std::uint32_t parent : parents[reached[i]]) {
+      if (found[parent] == never) {
+        found[parent] = found[reached[i]] + 1;
+        reached.push_back(parent);
+      }
+    }
+  }
+  return found;
+}
+
+std::uint32_t Drawing::distance(const Element& element) const {
+  return (*distances)[indexOf(element)];
+}
+
+// One of those nearest to the goal.
+std::size_t Drawing::nearest(const Element& element) {
+  std::size_t best = 0;
+  std::size_t equal = 1;
+  for (std::size_t i = 1; i < element.count; ++i) {
+    const std::uint32_t one = distance(linked(element, i));
+    const std::uint32_t other = distance(linked(element, best));
+    equal = one == other ? equal + 1 : one < other ? 1 : equal;
+    if (one < other || (one == other && random.oneIn(equal))) {
+      best = i;
+    }
+  }
+  return best;
 }
 
 Pieces Drawing::draw(Entry entry, std::size_t room) {
   mostPieces = room;
   pieces.clear();
-  walk(cypherGrammar
-           .elements[entry == Entry::Query ? cypherGrammar.query : cypherGrammar.expression]);
+  const std::size_t rule = random.below(rules.size());
+  goal = rules[rule];
+  distances = &distancesTo(rule);
+  const Element& start =
+      cypherGrammar
+          .elements[entry == Entry::Query ? cypherGrammar.query : cypherGrammar.expression];
+  walk(start, random.oneIn(8) || distance(start) == never ? Mode::Free : Mode::Towards);
   return pieces;
 }
 
@@ -98,33 +163,23 @@ std::string Drawing::drawEdge() {
   return text;
 }
 
-void Drawing::walk(const Element& element) {
+void Drawing::walk(const Element& element, Mode mode) {
   switch (element.kind) {
     case ElementKind::sequence:
-      for (std::size_t i = 0; i < element.count; ++i) {
-        walk(linked(element, i));
-      }
+      walkSequence(element, mode);
       break;
     case ElementKind::choice:
-      walkChoice(element);
+      walkChoice(element, mode);
       break;
-    case ElementKind::optional: {
-      const bool isBlank = isToken(linked(element, 0), Lexer::SP);
-      if ((isBlank || !isFull()) && random.oneIn(3)) {
-        walk(linked(element, 0));
-      }
+    case ElementKind::optional:
+      walkOptional(element, mode);
       break;
-    }
     case ElementKind::star:
-      repeat(element, 0);
-      break;
     case ElementKind::plus:
-      repeat(element, 1);
+      walkRepeated(element, mode);
       break;
     case ElementKind::rule:
-      ++depth;
-      walk(linked(element, 0));
-      --depth;
+      walkRule(element, mode);
       break;
     case ElementKind::token:
       addToken(element);
@@ -135,49 +190,83 @@ void Drawing::walk(const Element& element) {
   }
 }
 
-void Drawing::walkChoice(const Element& element) {
+// One element leads to the goal, the others are free.
+void Drawing::walkSequence(const Element& sequence, Mode mode) {
+  const std::size_t leading = mode == Mode::Towards ? nearest(sequence) : 0;
+  for (std::size_t i = 0; i < sequence.count; ++i) {
+    walk(linked(sequence, i), mode == Mode::Towards && i != leading ? Mode::Free : mode);
+  }
+}
+
+void Drawing::walkChoice(const Element& choice, Mode mode) {
+  const std::size_t chosen = mode == Mode::Towards     ? nearest(choice)
+                             : mode == Mode::AtTheGoal ? random.below(choice.count)
+                                                       : drawAlternative(choice);
+  ++uses[choice.first + chosen];
+  walk(linked(choice, chosen), mode);
+}
+
+void Drawing::walkOptional(const Element& optional, Mode mode) {
+  const Element& inside = linked(optional, 0);
+  const bool mayBeLong = mode == Mode::Free && !isToken(inside, Lexer::SP);
+  if (mode == Mode::Towards ||
+      (random.oneIn(mode == Mode::AtTheGoal ? 2 : 3) && !(mayBeLong && isFull()))) {
+    walk(inside, mode);
+  }
+}
+
+void Drawing::walkRepeated(const Element& repeated, Mode mode) {
+  const Element& inside = linked(repeated, 0);
+  std::size_t rounds = drawRounds(mode) + (repeated.kind == ElementKind::plus ? 1 : 0);
+  if (mode == Mode::Towards) {
+    walk(inside, mode);
+    mode = Mode::Free;
+    rounds = random.oneIn(8) ? 1 : 0;
+  }
+  for (; rounds > 0; --rounds) {
+    walk(inside, mode);
+  }
+}
+
+void Drawing::walkRule(const Element& rule, Mode mode) {
+  ++depth;
+  walk(linked(rule, 0), mode != Mode::Towards ? Mode::Free
+                        : &rule == goal       ? Mode::AtTheGoal
+                                              : Mode::Towards);
+  --depth;
+}
+
+std::size_t Drawing::drawAlternative(const Element& choice) {
   constexpr std::uint32_t slack = 3;  // lets literals and variables end an expression
-  std::size_t chosen = random.below(element.count);
-  if (isFull() || depth > deepest) {
-    std::uint32_t least = linked(element, 0).height;
-    for (std::size_t i = 1; i < element.count; ++i) {
-      least = std::min(least, linked(element, i).height);
+  std::size_t chosen = random.below(choice.count);
+  if (isFull()) {
+    std::uint32_t least = linked(choice, 0).height;
+    for (std::size_t i = 1; i < choice.count; ++i) {
+      least = std::min(least, linked(choice, i).height);
     }
-    while (linked(element, chosen).height > least + (depth > deepest ? 0 : slack)) {
-      chosen = (chosen + 1) % element.count;
+    while (linked(choice, chosen).height > least + (depth > deepest ? 0 : slack)) {
+      chosen = (chosen + 1) % choice.count;
     }
-  } else {
-    const std::size_t other = random.below(element.count);
-    if (uses[element.first + other] < uses[element.first + chosen]) {
-      chosen = other;
-    }
+    return chosen;
   }
-  ++uses[element.first + chosen];
-  walk(linked(element, chosen));
+  if (!random.oneIn(8) && isChoiceOfTokens(choice)) {
+    return usualToken(choice);
+  }
+  const std::size_t other = random.below(choice.count);
+  return uses[choice.first + other] < uses[choice.first + chosen] ? other : chosen;
 }
 
-// Rarely more than the fewest rounds: otherwise the levels of an expression would multiply.
-std::size_t Drawing::drawRounds(const Element& element, std::size_t least) {
+// Rarely any: otherwise the levels of an expression would multiply.
+std::size_t Drawing::drawRounds(Mode mode) {
   constexpr std::size_t chances = 12;
-  std::uint32_t* const counts = &rounds[3 * element.first];
-  std::size_t count = 0;
-  if (!isFull()) {
-    if (random.oneIn(chances)) {
-      count = static_cast<std::size_t>(std::min_element(counts, counts + 3) - counts);
-    } else {
-      while (random.oneIn(chances)) {
-        ++count;
-      }
-    }
+  if (mode == Mode::AtTheGoal) {
+    return random.below(3);
   }
-  ++counts[std::min<std::size_t>(count, 2)];
-  return least + count;
-}
-
-void Drawing::repeat(const Element& element, std::size_t least) {
-  for (std::size_t i = drawRounds(element, least); i > 0; --i) {
-    walk(linked(element, 0));
+  std::size_t rounds = 0;
+  while (!isFull() && random.oneIn(chances)) {
+    ++rounds;
   }
+  return rounds;
 }
 
 // Two words that stand side by side are set apart, which the grammar allows nearly everywhere.

@@ -14,8 +14,9 @@ using Pieces = std::vector<std::string>;
 
 std::string joined(const Pieces& pieces);
 
-/// Draws texts from the grammar. What has been drawn less often is drawn sooner, and names are few,
-/// so that most texts are accepted and their variables meet.
+/// Draws texts from the grammar. Most texts lead to one rule by the shortest way and there try
+/// every way equally often, so that they stay small and leave nothing out. Names are few, so that
+/// most texts are accepted and their variables meet.
 class Drawing {
  public:
   explicit Drawing(Random& itsRandom);
@@ -30,22 +31,46 @@ class Drawing {
   std::string drawEdge();
 
  private:
-  void findTokens(const Element& element, std::vector<bool>& seen);
-  void walk(const Element& element);
-  void walkChoice(const Element& element);
-  void repeat(const Element& element, std::size_t least);
-  std::size_t drawRounds(const Element& element, std::size_t least);
+  /// How the choices of an element are made.
+  enum class Mode {
+    Towards,    // so that they lead to the goal
+    AtTheGoal,  // each as often as any other
+    Free,       // what has been chosen less often sooner, and nothing large where room is short
+  };
+
+  using Distances = std::vector<std::uint32_t>;  // by element
+  static constexpr std::uint32_t never = UINT32_MAX;
+
+  void explore(const Element& element);
+  const Distances& distancesTo(std::size_t rule);
+  [[nodiscard]] std::uint32_t distance(const Element& element) const;
+  std::size_t nearest(const Element& element);
+  void walk(const Element& element, Mode mode);
+  void walkSequence(const Element& sequence, Mode mode);
+  void walkChoice(const Element& choice, Mode mode);
+  void walkOptional(const Element& optional, Mode mode);
+  void walkRepeated(const Element& repeated, Mode mode);
+  void walkRule(const Element& rule, Mode mode);
+  std::size_t drawAlternative(const Element& choice);
+  std::size_t drawRounds(Mode mode);
   void addToken(const Element& token);
   std::string textOf(const Element& token);
   void append(const Element& element, std::string& text);
-  [[nodiscard]] bool isFull() const { return pieces.size() >= mostPieces; }
+  [[nodiscard]] bool isFull() const { return pieces.size() >= mostPieces || depth > deepest; }
+
+  static constexpr std::size_t deepest = 400;  // rules: an atom inside an atom takes fifteen
 
   Random& random;
   std::size_t mostPieces = 0;
   std::size_t depth = 0;
   Pieces pieces;
-  std::vector<std::uint32_t> uses;    // of each link
-  std::vector<std::uint32_t> rounds;  // three for each link: none, one and more
+  const Element* goal = nullptr;
+  const Distances* distances = nullptr;
+  std::vector<std::uint32_t> uses;                  // of each link
+  std::vector<std::vector<std::uint32_t>> parents;  // of each element
+  std::vector<bool> seen;
+  std::vector<const Element*> rules;
+  std::vector<Distances> known;  // of each rule
   std::vector<const Element*> tokens;
   std::vector<char32_t> edges;
 };

@@ -10,7 +10,7 @@ namespace compare {
 
 namespace {
 
-using Parser = bare::CypherParser;
+using Parser = vorn::CypherParser;
 
 bool isListed(std::size_t rule) {
   switch (rule) {

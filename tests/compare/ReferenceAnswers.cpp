@@ -14,7 +14,7 @@ namespace compare {
 
 namespace {
 
-using Parser = bare::CypherParser;
+using Parser = vorn::CypherParser;
 using vorn::CypherType;
 using vorn::WideString;
 
@@ -56,7 +56,7 @@ struct Column {
   CypherType type;
 };
 
-class ColumnsListener : public bare::CypherBaseListener {
+class ColumnsListener : public vorn::CypherBaseListener {
  public:
   void enterOC_Union(Parser::OC_UnionContext* /*ctx*/) override {
     branches.push_back(std::exchange(columns, {}));
@@ -162,7 +162,7 @@ struct Forbidden : std::logic_error {
   using std::logic_error::logic_error;
 };
 
-class UsagesListener : public bare::CypherBaseListener {
+class UsagesListener : public vorn::CypherBaseListener {
  public:
   void enterOC_ListComprehension(Parser::OC_ListComprehensionContext* ctx) override {
     reject("OC_ListComprehension", *ctx);
@@ -214,7 +214,7 @@ class UsagesListener : public bare::CypherBaseListener {
   }
 };
 
-class RenamingListener : public bare::CypherBaseListener {
+class RenamingListener : public vorn::CypherBaseListener {
  public:
   explicit RenamingListener(const Renames& renames) {
     for (const auto& [oldName, newName] : renames) {

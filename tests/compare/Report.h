@@ -35,6 +35,7 @@ struct Counts {
   std::uint64_t refused;
   std::uint64_t equalMessages;
   std::uint64_t refusedByBound;
+  std::uint64_t microseconds;
 };
 
 /// What one process tells the one that started it. It lies in memory that both share, so that it is

@@ -1,20 +1,14 @@
-#include <ANTLRInputStream.h>
-#include <BailErrorStrategy.h>
-#include <CommonTokenStream.h>
-#include <DefaultErrorStrategy.h>
-#include <ProxyErrorListener.h>
-#include <atn/ParserATNSimulator.h>
+#include <Exceptions.h>
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <memory>
+#include <string>
 #include <thread>
 #include <type_traits>
+#include <vector>
 
 #include "CypherInterrogator.h"
-#include "CypherLexer.h"
 #include "PropertyFilterExpressionInterrogator.h"
-#include "ThrowingErrorListener.h"
 #include "support/Text.h"
 
 using vorn::CypherInterrogator;
@@ -133,13 +127,15 @@ TEST(Interrogators, WorkOnManyThreadsFromTheFirstCallOn) {
   EXPECT_EQ(columns, std::vector<std::size_t>(8, 80));
 }
 
-TEST(Interrogators, ReportErrorsOnManyThreadsFromTheFirstCallOn) {
+// Asks on several threads at the same time for the message of what an interrogator throws.
+template <typename Interrogator>
+std::vector<std::string> messagesOnManyThreads(const vorn::WideString& text) {
   std::vector<std::string> messages(8);
   std::vector<std::thread> threads;
   for (std::string& message : messages) {
-    threads.emplace_back([&message] {
+    threads.emplace_back([&message, &text] {
       try {
-        const CypherInterrogator interrogator(wide("MATCH (n RETURN n"));
+        const Interrogator interrogator(text);
       } catch (const antlr4::ParseCancellationException& error) {
         message = error.what();
       }
@@ -148,70 +144,37 @@ TEST(Interrogators, ReportErrorsOnManyThreadsFromTheFirstCallOn) {
   for (std::thread& thread : threads) {
     thread.join();
   }
-  EXPECT_EQ(messages, std::vector<std::string>(
-                          8, "line 1:9 no viable alternative at input 'MATCH (n RETURN'"));
+  return messages;
 }
 
-// Shows the parts of the pipeline that the base keeps for the interrogators.
+TEST(Interrogators, ReportErrorsOnManyThreadsFromTheFirstCallOn) {
+  EXPECT_EQ(messagesOnManyThreads<PropertyFilterExpressionInterrogator>(wide("(n RETURN n")),
+            std::vector<std::string>(8, "line 1:3 no viable alternative at input '(n RETURN'"));
+}
+
+TEST(Interrogators, SayNothingOfThePlaceOfAnErrorInAQuery) {
+  EXPECT_EQ(messagesOnManyThreads<CypherInterrogator>(wide("MATCH (n RETURN n")),
+            std::vector<std::string>(8, "the text is no openCypher query"));
+}
+
 class OpenInterrogator : public InterrogatorBase {
  public:
   explicit OpenInterrogator(const vorn::WideString& text) : InterrogatorBase(text) {}
 
-  antlr4::Lexer& theLexer() { return *lexer; }
-  vorn::CypherParser& theParser() { return *parser; }
   const std::string& theText() const { return utf8Text; }
+  const vorn::SyntaxTree& theTree() const { return tree; }
 };
 
-TEST(Pipelines, ShareTheStaticDataOfTheRecognisers) {
-  OpenInterrogator one(wide("RETURN 1"));
-  OpenInterrogator other(wide("n.a"));
-  EXPECT_NE(&one.theLexer(), &other.theLexer());
-  EXPECT_EQ(&one.theLexer().getATN(), &other.theLexer().getATN());
-  EXPECT_EQ(&one.theParser().getATN(), &other.theParser().getATN());
-  EXPECT_EQ(one.theLexer().getSerializedATN().data(), other.theLexer().getSerializedATN().data());
-}
-
-TEST(Pipelines, HoldTheTextAsUtf8) {
+TEST(Interrogators, HoldTheTextAsUtf8) {
   EXPECT_EQ(OpenInterrogator(wide("'é名😀'")).theText(), "'é名😀'");
 }
 
-// The runtime calls listeners in the order of their addresses. So one that prints could hide behind
-// the one that throws, and shows itself when that one is taken away.
-TEST(Pipelines, ReportToTheSharedListenerOnly) {
-  OpenInterrogator interrogator(wide("?"));
-  testing::internal::CaptureStdout();
-  testing::internal::CaptureStderr();
-  for (antlr4::Recognizer* recognizer : std::initializer_list<antlr4::Recognizer*>{
-           &interrogator.theLexer(), &interrogator.theParser()}) {
-    antlr4::ProxyErrorListener& listeners = recognizer->getErrorListenerDispatch();
-    EXPECT_THROW(listeners.syntaxError(recognizer, nullptr, 1, 0, "", nullptr),
-                 antlr4::ParseCancellationException);
-    recognizer->removeErrorListener(&ThrowingErrorListener::instance());
-    EXPECT_NO_THROW(listeners.syntaxError(recognizer, nullptr, 1, 0, "", nullptr));
-  }
-  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
-  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-}
-
-TEST(Pipelines, ParseAsTheRuntimeDoesByDefault) {
-  OpenInterrogator interrogator(wide("RETURN 1"));
-  EXPECT_TRUE(interrogator.theParser().getBuildParseTree());
-  EXPECT_EQ(interrogator.theParser()
-                .getInterpreter<antlr4::atn::ParserATNSimulator>()
-                ->getPredictionMode(),
-            antlr4::atn::PredictionMode::LL);
-  EXPECT_NE(
-      dynamic_cast<antlr4::DefaultErrorStrategy*>(interrogator.theParser().getErrorHandler().get()),
-      nullptr);
-  EXPECT_EQ(
-      dynamic_cast<antlr4::BailErrorStrategy*>(interrogator.theParser().getErrorHandler().get()),
-      nullptr);
-}
-
-TEST(ThrowingErrorListener, IsOneForTheProcess) {
-  EXPECT_EQ(&ThrowingErrorListener::instance(), &ThrowingErrorListener::instance());
-  static_assert(std::is_base_of_v<antlr4::BaseErrorListener, ThrowingErrorListener>);
-  static_assert(sizeof(ThrowingErrorListener) == sizeof(antlr4::BaseErrorListener));
+TEST(Interrogators, DivideTheirOwnTextIntoTokens) {
+  const OpenInterrogator interrogator(wide("'é名😀' AND"));
+  EXPECT_EQ(interrogator.theTree().text.data(), interrogator.theText().data());
+  ASSERT_EQ(interrogator.theTree().tokenCount(), 3U);
+  EXPECT_EQ(interrogator.theTree().textOf(0), "'é名😀'");
+  EXPECT_EQ(interrogator.theTree().textOf(2), "AND");
 }
 
 }  // namespace

@@ -30,14 +30,15 @@ struct Shape {
   }
 };
 
-/// The one in which most rules lie between a bracket and the next. At 2,000 levels it takes half a
-/// minute.
+/// The one in which most rules lie between a bracket and the next.
 constexpr Shape mostRules{
     "MostRules", "EXISTS { RETURN 1 UNION MERGE (a) ON CREATE SET a.b = a = a IN ", "}", "a"};
 
 constexpr Shape relationshipProperties{"RelationshipProperties", "()-[a {b: ", "}]-()", "1"};
 
-/// The parser knows from a token or two which of these begins.
+constexpr Shape subscriptsOfCalls{"SubscriptsOfCalls", "a[f(", ")]", "1"};
+
+/// The parser knows from up to three tokens which of these begins.
 inline std::vector<Shape> plainShapes() {
   return {
       {"Parentheses", "(", ")", "a"},
@@ -60,14 +61,12 @@ inline std::vector<Shape> plainShapes() {
   };
 }
 
-/// Here it has to look ahead over all that is nested inside, which takes time that grows faster
-/// than the text.
+/// Here it learns only behind all that is nested inside which alternative it is.
 inline std::vector<Shape> lookaheadShapes() {
   return {
       {"Subscripts", "a[", "]", "1"},
       {"Comprehensions", "[x IN ", "]", "a"},
       {"Quantifiers", "any(x IN ", ")", "a"},
-      {"ComprehensionsOfCalls", "[x IN f(", ")]", "a"},
       {"ComprehensionOfParentheses", "(", ")", "a", "[x IN ", "]"},
       relationshipProperties,
       {"Queries", "EXISTS { MATCH (a) WHERE ", " RETURN 1}", "a"},
@@ -79,10 +78,30 @@ inline std::vector<Shape> lookaheadShapes() {
   };
 }
 
-inline std::vector<Shape> allShapes() {
+/// Here two brackets are opened at a time.
+inline std::vector<Shape> twoBracketShapes() {
+  return {
+      subscriptsOfCalls,
+      {"ComprehensionsOfCalls", "[x IN f(", ")]", "a"},
+      {"ListsOfLists", "[[", "]]", "a"},
+      {"ParenthesesInLists", "[(", ")]", "a"},
+      {"QuantifiersInComprehensions", "[x IN any(y IN ", ") | x]", "a"},
+      {"MapsInNodeProperties", "(a {b: {c: ", "}})--()", "1"},
+      {"ComprehensionsInSubqueries", "EXISTS { RETURN [(a)--(b) | ", "]}", "a"},
+      {"CasesInCalls", "f(CASE WHEN ", " THEN 1 END)", "a"},
+  };
+}
+
+inline std::vector<Shape> oneBracketShapes() {
   std::vector<Shape> shapes = plainShapes();
-  for (const Shape& shape : lookaheadShapes()) {
-    shapes.push_back(shape);
-  }
+  const std::vector<Shape> more = lookaheadShapes();
+  shapes.insert(shapes.end(), more.begin(), more.end());
+  return shapes;
+}
+
+inline std::vector<Shape> allShapes() {
+  std::vector<Shape> shapes = oneBracketShapes();
+  const std::vector<Shape> more = twoBracketShapes();
+  shapes.insert(shapes.end(), more.begin(), more.end());
   return shapes;
 }

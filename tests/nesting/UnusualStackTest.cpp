@@ -48,7 +48,7 @@ TEST(StackOfACoroutine, RefusesATextThatNestsDeeply) {
 }
 
 TEST(StackOfACoroutine, LeavesTheThreadsOwnStackAsItIs) {
-  const WideString text = parentheses(1000);
+  const WideString text = parentheses(8000);
   onStackOf(8 * mebibyte, [&] {
     EXPECT_EQ(answerFor(text), Answer::Right);
     EXPECT_EQ(answerOnContextStack(128 * kibibyte, text), Answer::TooDeep);
@@ -81,7 +81,7 @@ Answer answerOnSignalStack(std::size_t bytes, const WideString& text) {
 }
 
 TEST(StackOfASignalHandler, IsUsedInFull) {
-  EXPECT_EQ(answerOnSignalStack(mebibyte, parentheses(250)), Answer::Right);
+  EXPECT_EQ(answerOnSignalStack(mebibyte, parentheses(1000)), Answer::Right);
 }
 
 TEST(StackOfASignalHandler, IsNotOverrun) {
@@ -105,17 +105,33 @@ Answer answerBelow(std::size_t usedBytes, const WideString& text) {
   return *used == 1 ? answer : Answer::Wrong;
 }
 
-TEST(StackThatIsNearlyUsedUp, GivesAnAnswerOrARefusal) {
-  const WideString text = parentheses(12);
+// The answers of a text with less and less of the stack left, in kibibytes.
+std::vector<Answer> answersWithLessAndLess(const WideString& text) {
   std::vector<Answer> answers;
   for (std::size_t left = 120; left >= VORN_LEAST_KIBIBYTES; left -= 4) {
     onStackOf(128 * kibibyte,
               [&] { answers.push_back(answerBelow((124 - left) * kibibyte, text)); });
   }
+  return answers;
+}
+
+TEST(StackThatIsNearlyUsedUp, GivesAnAnswerOrARefusal) {
+  const std::vector<Answer> answers = answersWithLessAndLess(parentheses(100));
   EXPECT_EQ(answers.front(), Answer::Right);
   EXPECT_EQ(answers.back(), Answer::TooDeep);
   for (const Answer answer : answers) {
     EXPECT_TRUE(answer == Answer::Right || answer == Answer::TooDeep);
+  }
+}
+
+TEST(StackThatIsNearlyUsedUp, IsNotOverrunByAnyShape) {
+  for (const Shape& shape : allShapes()) {
+    for (const Answer answer : answersWithLessAndLess(shape.nested(20))) {
+      EXPECT_TRUE(answer == Answer::Right || answer == Answer::TooDeep) << shape;
+    }
+    for (const Answer answer : answersWithLessAndLess(shape.nested(2000))) {
+      EXPECT_EQ(answer, Answer::TooDeep) << shape;
+    }
   }
 }
 

@@ -68,7 +68,7 @@ TEST(FirstCallOnManyThreads, AnswersAsOnOneThread) {
   }
 }
 
-// Enough new texts for the tables to be outgrown and replaced while they are in use.
+// Valid texts and wrong ones side by side, of which the wrong filters share the runtime's tables.
 TEST(ManyThreads, AnswerAsOneThread) {
   const std::vector<Question> asked = randomQuestions(1, 450);
   const std::vector<std::string> expected = answersOfOneThread(asked);

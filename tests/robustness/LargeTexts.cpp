@@ -15,6 +15,8 @@ WideString repeated(const WideString& piece, std::size_t size) {
 
 Question query(WideString text) { return {Question::Kind::columns, std::move(text)}; }
 
+Question filter(WideString text) { return {Question::Kind::usages, std::move(text)}; }
+
 WideString nested(const WideString& open, const WideString& inside, const WideString& close,
                   std::size_t size) {
   const std::size_t levels = size / (open.size() + close.size());
@@ -43,19 +45,21 @@ const std::vector<LargeText>& linearTexts() {
       {"RETURN 1, 1, ...",
        [](std::size_t size) { return query(u"RETURN 1" + repeated(u", 1", size)); }},
       {"n.a = 1 AND n.a = 1 ...",
-       [](std::size_t size) -> Question {
-         return {Question::Kind::usages, u"n.a = 1" + repeated(u" AND n.a = 1", size)};
-       }},
+       [](std::size_t size) { return filter(u"n.a = 1" + repeated(u" AND n.a = 1", size)); }},
       {"MATCH (a) MATCH (a) ...",
        [](std::size_t size) { return query(repeated(u"MATCH (a) ", size) + u"RETURN a"); }},
+      {"RETURN (a)-[b]-(a)-[b]-...",
+       [](std::size_t size) { return query(u"RETURN (a)" + repeated(u"-[b]-(a)", size)); }},
+      {"RETURN [x IN a], [x IN a], ...",
+       [](std::size_t size) { return query(u"RETURN 1" + repeated(u", [x IN a | x]", size)); }},
+      {"/* /* /* ...",
+       [](std::size_t size) { return query(u"RETURN 1 " + repeated(u"/* ", size)); }},
   };
   return texts;
 }
 
-const std::vector<LargeText>& ambiguousTexts() {
+const std::vector<LargeText>& nestedTexts() {
   static const std::vector<LargeText> texts = {
-      {"RETURN (a)-[b]-(a)-[b]-...",
-       [](std::size_t size) { return query(u"RETURN (a)" + repeated(u"-[b]-(a)", size)); }},
       {"RETURN [x IN [x IN ...",
        [](std::size_t size) { return query(u"RETURN " + nested(u"[x IN ", u"1", u"]", size)); }},
       {"RETURN ({a: ({a: ...",
@@ -70,6 +74,22 @@ const std::vector<LargeText>& ambiguousTexts() {
        [](std::size_t size) {
          return query(u"RETURN " + nested(u"(", u"(a)-[b]-(a)", u")", size));
        }},
+  };
+  return texts;
+}
+
+const std::vector<LargeText>& wrongTexts() {
+  static const std::vector<LargeText> texts = {
+      {"(a)-[b]-(a)-[b]-...",
+       [](std::size_t size) { return filter(u"(a)" + repeated(u"-[b]-(a)", size) + u" ?"); }},
+      {"n.a = 1 AND n.a = 1 ...",
+       [](std::size_t size) { return filter(repeated(u"n.a = 1 AND ", size) + u"?"); }},
+      {"[x IN a + a + ...",
+       [](std::size_t size) { return filter(u"[x IN " + repeated(u"a + ", size) + u"?"); }},
+      {"[x IN [x IN ...",
+       [](std::size_t size) { return filter(nested(u"[x IN ", u"?", u"]", size)); }},
+      {"((((... around (a)-[b]-(a)",
+       [](std::size_t size) { return filter(nested(u"(", u"(a)-[b]-(a) ?", u")", size)); }},
   };
   return texts;
 }

@@ -16,5 +16,10 @@ struct LargeText {
 /// Texts that are answered in time and memory that grow as their size does.
 const std::vector<LargeText>& linearTexts();
 
-/// Texts for which the grammar is ambiguous over their whole length, so that time grows faster.
-const std::vector<LargeText>& ambiguousTexts();
+/// Texts that nest ever deeper, and so fit the stack only up to a size. Time and memory grow as for
+/// the others.
+const std::vector<LargeText>& nestedTexts();
+
+/// Wrong filters, for which the grammar is ambiguous over most of their length: time grows faster,
+/// up to where they are refused for it.
+const std::vector<LargeText>& wrongTexts();

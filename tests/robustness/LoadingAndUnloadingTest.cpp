@@ -36,17 +36,19 @@ TEST(LoadingAndUnloading, AThousandTimesAnswersAlwaysTheSameInTheSameMemory) {
   EXPECT_EQ(FailingNew::live(), before);
 }
 
-// What was remembered of a deep text is a chain as long as the text was deep.
-TEST(LoadingAndUnloading, AfterADeepTextTakesLittleStack) {
-  const vorn::WideString text = vorn::WideString(u"RETURN ").append(1500, u'(') + u"(a)-[b]-(a)" +
-                                vorn::WideString(1500, u')');
+TEST(LoadingAndUnloading, AfterDeepTextsTakesLittleStack) {
+  const vorn::WideString deep = vorn::WideString(1500, u'(') + u"(a)-[b]-(a)";
+  const vorn::WideString valid = u"RETURN " + deep + vorn::WideString(1500, u')');
+  const vorn::WideString wrong = deep + u" ?";
   auto library = std::make_unique<LoadedLibrary>();
-  int status = 1;
+  std::vector<std::string> answers;
   onStackOf(64 * mebibyte, [&] {
-    std::vector<std::pair<vorn::WideString, vorn::CypherType>> columns;
-    status = library->calls().columns(text, columns);
+    for (const Question& question :
+         {Question{Question::Kind::columns, valid}, Question{Question::Kind::renaming, wrong}}) {
+      answers.push_back(answer(library->calls(), question).substr(0, 14));
+    }
   });
-  EXPECT_EQ(status, 0);
+  EXPECT_EQ(answers, (std::vector<std::string>{"status 0, ((((", "failed: line 1"}));
   onStackOf(64 * kibibyte, [&] { library.reset(); });
   EXPECT_FALSE(LoadedLibrary::isPresent());
 }

@@ -59,7 +59,10 @@ int main() {
     const std::size_t largest = i < 4 ? 64 * mebibyte : mebibyte;
     print(linearTexts()[i], largest / 64, largest, factor);
   }
-  for (const LargeText& text : ambiguousTexts()) {
-    print(text, 125, 1000, 2);
+  for (const LargeText& text : nestedTexts()) {
+    print(text, 1000, 64'000, factor);
+  }
+  for (const LargeText& text : wrongTexts()) {
+    print(text, 125, 8000, factor);
   }
 }

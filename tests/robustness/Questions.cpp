@@ -73,6 +73,7 @@ const std::vector<Question>& questions() {
       {Kind::usages, u"size([x IN n.list | x]) > 0"},
       {Kind::usages, u"n.a = AND"},
       {Kind::usages, u"n.a\n= 'not closed"},
+      {Kind::usages, u"[x IN (a)-[b]-(c) ?"},
       {Kind::renaming, u"n.n = $n AND any(x IN n.list WHERE x.a = `n`) /* n */ OR (n)-[m]->(o)"},
       {Kind::renaming, u"(n.a"},
       {Kind::renaming, vorn::WideString(u"n.a = ") + vorn::WideChar{0xD800}},

@@ -1,5 +1,5 @@
-// Makes random calls on all functions and prints the memory of the process at intervals: after the
-// tables have once been full, it must stay flat.
+// Makes random calls on all functions and prints the memory of the process at intervals: once the
+// runtime's tables are built, it must stay flat.
 //
 //   soak MILLIONS
 

@@ -9,7 +9,7 @@
 
 #include "CypherLexer.h"
 #include "CypherParser.h"
-#include "ThrowingErrorListener.h"
+#include "antlr/ThrowingErrorListener.h"
 
 /// The recognisers over one UTF-8 text, as the library sets them up, open to a test.
 struct Pipeline {

@@ -89,7 +89,7 @@ void rename(void* argument) {
 
 void expectRegistersKept(void (*ask)(void*), const vorn::WideString& text, bool isAnswered) {
   Call call{text, !isAnswered};
-  // The first call looks things up that the second one remembers.
+  // The first wrong filter builds what the second one finds.
   for (int i = 0; i < 2; ++i) {
     Registers registers;
     std::iota(registers.begin(), registers.end(), 0x0123456789abcdefU);

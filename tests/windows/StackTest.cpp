@@ -55,7 +55,7 @@ Answer answerOnFibre(std::size_t bytes, const vorn::WideString& text) {
 }  // namespace
 
 TEST(StackOfAFibre, IsUsedInFull) {
-  EXPECT_EQ(answerOnFibre(8 * mebibyte, parentheses(1600)), Answer::Right);
+  EXPECT_EQ(answerOnFibre(8 * mebibyte, parentheses(8000)), Answer::Right);
 }
 
 TEST(StackOfAFibre, IsNotOverrunWhenItIsNearlyUsedUp) {
@@ -73,7 +73,7 @@ TEST(StackWithAPartSetApartForAnOverflow, IsUsedUpToThatPart) {
   onStackOf(mebibyte, [&] {
     auto bytes = static_cast<ULONG>(setApart);
     ASSERT_NE(SetThreadStackGuarantee(&bytes), 0);
-    EXPECT_EQ(answerWith(setApart + 64 * kibibyte, parentheses(2)), Answer::Right);
-    EXPECT_EQ(answerWith(setApart + 24 * kibibyte, parentheses(2)), Answer::TooDeep);
+    EXPECT_EQ(answerWith(setApart + 64 * kibibyte, parentheses(20)), Answer::Right);
+    EXPECT_EQ(answerWith(setApart + 24 * kibibyte, parentheses(20)), Answer::TooDeep);
   });
 }

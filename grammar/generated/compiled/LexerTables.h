@@ -22,6 +22,9 @@ struct LexerTables {
   static const std::array<std::uint8_t, 4352> pageOf;
   static const std::array<std::array<std::uint8_t, 256>, 128> pages;
 
+  static std::uint8_t classOf(std::uint32_t codePoint) {
+    return pages[pageOf[codePoint / 256]][codePoint % 256];
+  }
   /// The type of the token that ends in a state, or 0.
   static std::uint8_t typeOf(std::uint16_t state) {
     return static_cast<std::uint8_t>(transitions[state]);

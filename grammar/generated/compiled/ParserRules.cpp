@@ -218,7 +218,7 @@ bool Rules::oC_RegularQuery() {
 }
 
 bool Rules::oC_Union() {
-  const std::size_t node = open(TreeRule::oC_Union);
+  const std::uint32_t node = open(TreeRule::oC_Union);
   if (!take(46)) {
     return false;
   }
@@ -398,7 +398,7 @@ bool Rules::oC_Match() {
 }
 
 bool Rules::oC_Unwind() {
-  const std::size_t node = open(TreeRule::oC_Unwind);
+  const std::uint32_t node = open(TreeRule::oC_Unwind);
   if (!take(50)) {
     return false;
   }
@@ -817,7 +817,7 @@ bool Rules::oC_YieldItem() {
 }
 
 bool Rules::oC_With() {
-  const std::size_t node = open(TreeRule::oC_With);
+  const std::uint32_t node = open(TreeRule::oC_With);
   if (!take(61)) {
     return false;
   }
@@ -885,7 +885,7 @@ bool Rules::oC_ProjectionBody() {
 }
 
 bool Rules::oC_ProjectionItems() {
-  const std::size_t node = open(TreeRule::oC_ProjectionItems);
+  const std::uint32_t node = open(TreeRule::oC_ProjectionItems);
   switch (ahead(0)) {
     case 5:
       if (!take(5)) {
@@ -927,7 +927,7 @@ bool Rules::oC_ProjectionItems() {
 }
 
 bool Rules::oC_ProjectionItem() {
-  const std::size_t node = open(TreeRule::oC_ProjectionItem);
+  const std::uint32_t node = open(TreeRule::oC_ProjectionItem);
   if (!oC_Expression()) {
     return false;
   }
@@ -1047,7 +1047,7 @@ bool Rules::oC_Pattern() {
 }
 
 bool Rules::oC_PatternPart() {
-  const std::size_t node = open(TreeRule::oC_PatternPart);
+  const std::uint32_t node = open(TreeRule::oC_PatternPart);
   switch (ahead(0)) {
     case 6: case 73: case 74:
       if (!oC_AnonymousPatternPart()) {
@@ -1171,7 +1171,7 @@ bool Rules::oC_RelationshipsPattern() {
 }
 
 bool Rules::oC_NodePattern() {
-  const std::size_t node = open(TreeRule::oC_NodePattern);
+  const std::uint32_t node = open(TreeRule::oC_NodePattern);
   if (!take(6)) {
     return false;
   }
@@ -1268,7 +1268,7 @@ bool Rules::oC_RelationshipPattern() {
 }
 
 bool Rules::oC_RelationshipDetail() {
-  const std::size_t node = open(TreeRule::oC_RelationshipDetail);
+  const std::uint32_t node = open(TreeRule::oC_RelationshipDetail);
   if (!take(8)) {
     return false;
   }
@@ -1394,7 +1394,7 @@ bool Rules::oC_RangeLiteral() {
 }
 
 bool Rules::oC_LabelName() {
-  const std::size_t node = open(TreeRule::oC_LabelName);
+  const std::uint32_t node = open(TreeRule::oC_LabelName);
   if (!oC_SchemaName()) {
     return false;
   }
@@ -1423,7 +1423,7 @@ bool Rules::oC_PropertyExpression() {
 }
 
 bool Rules::oC_Expression() {
-  const std::size_t node = open(TreeRule::oC_Expression);
+  const std::uint32_t node = open(TreeRule::oC_Expression);
   if (isStackUsedUp()) {
     return false;
   }
@@ -1802,7 +1802,7 @@ bool Rules::oC_ListOperatorExpression() {
 }
 
 bool Rules::oC_PropertyOrLabelsExpression() {
-  const std::size_t node = open(TreeRule::oC_PropertyOrLabelsExpression);
+  const std::uint32_t node = open(TreeRule::oC_PropertyOrLabelsExpression);
   if (!oC_Atom()) {
     return false;
   }
@@ -1834,7 +1834,7 @@ bool Rules::oC_PropertyLookup() {
 }
 
 bool Rules::oC_Atom() {
-  const std::size_t node = open(TreeRule::oC_Atom);
+  const std::uint32_t node = open(TreeRule::oC_Atom);
   unsigned chosen = 0;
   switch (ahead(0)) {
     case 6:
@@ -2312,7 +2312,7 @@ bool Rules::oC_CaseAlternative() {
 }
 
 bool Rules::oC_ListComprehension() {
-  const std::size_t node = open(TreeRule::oC_ListComprehension);
+  const std::uint32_t node = open(TreeRule::oC_ListComprehension);
   if (!take(8)) {
     return false;
   }
@@ -2339,7 +2339,7 @@ bool Rules::oC_ListComprehension() {
 }
 
 bool Rules::oC_PatternComprehension() {
-  const std::size_t node = open(TreeRule::oC_PatternComprehension);
+  const std::uint32_t node = open(TreeRule::oC_PatternComprehension);
   if (!take(8)) {
     return false;
   }
@@ -2380,7 +2380,7 @@ bool Rules::oC_PatternComprehension() {
 }
 
 bool Rules::oC_Quantifier() {
-  const std::size_t node = open(TreeRule::oC_Quantifier);
+  const std::uint32_t node = open(TreeRule::oC_Quantifier);
   if (!takeOneOf(set17)) {
     return false;
   }
@@ -2414,7 +2414,7 @@ bool Rules::oC_FilterExpression() {
 }
 
 bool Rules::oC_PatternPredicate() {
-  const std::size_t node = open(TreeRule::oC_PatternPredicate);
+  const std::uint32_t node = open(TreeRule::oC_PatternPredicate);
   if (!oC_RelationshipsPattern()) {
     return false;
   }
@@ -2504,7 +2504,7 @@ bool Rules::oC_FunctionName() {
 }
 
 bool Rules::oC_ExistentialSubquery() {
-  const std::size_t node = open(TreeRule::oC_ExistentialSubquery);
+  const std::uint32_t node = open(TreeRule::oC_ExistentialSubquery);
   if (isStackUsedUp()) {
     return false;
   }
@@ -2614,7 +2614,7 @@ bool Rules::oC_Namespace() {
 }
 
 bool Rules::oC_Variable() {
-  const std::size_t node = open(TreeRule::oC_Variable);
+  const std::uint32_t node = open(TreeRule::oC_Variable);
   if (!oC_SymbolicName()) {
     return false;
   }
@@ -2770,7 +2770,7 @@ bool Rules::oC_MapLiteral() {
 }
 
 bool Rules::oC_PropertyKeyName() {
-  const std::size_t node = open(TreeRule::oC_PropertyKeyName);
+  const std::uint32_t node = open(TreeRule::oC_PropertyKeyName);
   if (!oC_SchemaName()) {
     return false;
   }
