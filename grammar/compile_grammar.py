@@ -79,17 +79,67 @@ def filled(items: list, indent: str = "    ") -> str:
     return "\n".join(lines)
 
 
+def nested_array(declaration: str, values: list) -> str:
+    return f"{declaration} = {{{{\n{filled(values)}\n}}}};\n"
+
+
 def array(declaration: str, values: list) -> str:
     return f"{declaration} = {{\n{filled([str(value) for value in values])}\n}};\n"
 
 
 class LexerTables:
+    """The automaton, packed: a few KiB, which a call finds in the processor's cache or soon brings there.
+
+    Most states differ from another one, as those within a keyword from that of any other name, in one or
+    two transitions. So a state has those alone, and a state that it is like otherwise. The transitions of
+    all states lie in one list, each row where it fits between others.
+    """
+
     def __init__(self, automaton: LexerAutomaton) -> None:
         self._automaton = automaton
-        self._width = automaton.class_count
-        if len(automaton.accepts) * self._width > 0xFFFF or self._width > 0xFF:
-            fail("the automaton of the lexer does not fit its tables.")
+        self._rows = [{number: target for number, target in enumerate(row) if target} for row in automaton.transitions]
+        self._likes = self._alike()
         self._pages, self._page_of = self._divide()
+        self._pack()
+
+    def _differences(self, state: int, other: int) -> dict:
+        """The transitions that `state` must have by itself if all others are those of `other`."""
+        row, base = self._rows[state], self._rows[other]
+        own = {number: target for number, target in row.items() if base.get(number) != target}
+        return own | {number: 0 for number in base if number not in row}
+
+    def _alike(self) -> list:
+        """By state: one that it is like, which is like none itself, or the dead one."""
+        states = range(len(self._rows))
+        likes = [0 for _ in states]
+        needed = [len(row) for row in self._rows]
+        roots = set()
+        while True:
+            free = [state for state in states if not likes[state] or state in roots]
+            saved = {}
+            for other in (state for state in free if state > 1):
+                gains = {one: needed[one] - len(self._differences(one, other)) for one in states if one not in roots | {other}}
+                saved[other] = {one: gain for one, gain in gains.items() if gain > 0}
+            best = max(saved, key=lambda one: sum(saved[one].values()))
+            if sum(saved[best].values()) < len(self._rows):
+                return likes
+            roots.add(best)
+            for one, gain in saved[best].items():
+                likes[one] = best
+                needed[one] -= gain
+
+    def _pack(self) -> None:
+        own = [self._differences(state, like) for state, like in enumerate(self._likes)]
+        taken = {}
+        self._places = [0 for _ in own]
+        for state in sorted(range(len(own)), key=lambda one: -len(own[one])):
+            place = 0
+            while any(place + number in taken for number in own[state]):
+                place += 1
+            self._places[state] = place
+            taken |= {place + number: (state, target) for number, target in own[state].items()}
+        length = max(self._places) + self._automaton.class_count
+        self._entries = [taken.get(place, (0, 0)) for place in range(length)]
 
     def _divide(self) -> tuple:
         """The classes of 256 code points each, and which of these pages stands where."""
@@ -110,17 +160,24 @@ class LexerTables:
 
 namespace vorn {{
 
-/// The automaton of the lexer. A state is the place of its row in `transitions`, which has a column
-/// for each class of characters. No character is of class 0: there stands the type of the token that
-/// ends in the state, or 0.
+/// The automaton of the lexer over classes of characters.
 struct LexerTables {{
-  static constexpr std::size_t classes = {self._width};
   static constexpr std::uint16_t dead = 0;
-  static constexpr std::uint16_t start = classes;
+  static constexpr std::uint16_t start = 1;
 
-  static const std::array<std::uint16_t, {len(self._automaton.accepts) * self._width}> transitions;
-  /// By state, divided by `classes`: the type of the token that ends there where the text ends.
-  static const std::array<std::uint8_t, {len(self._automaton.accepts)}> typesAtEnd;
+  struct State {{
+    std::uint16_t place;  // where its transitions begin
+    std::uint16_t like;   // the state that has those which it lacks
+    std::uint8_t type;    // of the token that ends there, or 0
+    std::uint8_t typeAtEnd;  // the same where the text ends
+  }};
+  struct Transition {{
+    std::uint16_t state;  // whose it is; of the dead state there are none
+    std::uint16_t target;
+  }};
+
+  static const std::array<State, {len(self._places)}> states;
+  static const std::array<Transition, {len(self._entries)}> transitions;
   /// By code point, divided by 256: the page of its class.
   static const std::array<std::uint8_t, {len(self._page_of)}> pageOf;
   static const std::array<std::array<std::uint8_t, 256>, {len(self._pages)}> pages;
@@ -128,11 +185,16 @@ struct LexerTables {{
   static std::uint8_t classOf(std::uint32_t codePoint) {{
     return pages[pageOf[codePoint / 256]][codePoint % 256];
   }}
-  /// The type of the token that ends in a state, or 0.
-  static std::uint8_t typeOf(std::uint16_t state) {{
-    return static_cast<std::uint8_t>(transitions[state]);
+
+  static std::uint16_t next(std::uint16_t state, std::uint8_t characterClass) {{
+    const Transition& own = transitions[states[state].place + std::size_t{{characterClass}}];
+    if (own.state == state) {{
+      return own.target;
+    }}
+    const std::uint16_t like = states[state].like;
+    const Transition& other = transitions[states[like].place + std::size_t{{characterClass}}];
+    return other.state == like ? other.target : dead;
   }}
-  static std::uint8_t typeAtEnd(std::uint16_t state) {{ return typesAtEnd[state / classes]; }}
 }};
 
 }}  // namespace vorn
@@ -140,16 +202,15 @@ struct LexerTables {{
 
     def source(self) -> str:
         automaton = self._automaton
-        states = len(automaton.accepts)
-        targets = [
-            one
-            for row, accepted in zip(automaton.transitions, automaton.accepts)
-            for one in (accepted, *(target * self._width for target in row[1:]))
+        states = [
+            f"{{{place}, {like}, {accepted}, {at_end}}}"
+            for place, like, accepted, at_end in zip(self._places, self._likes, automaton.accepts, automaton.accepts_at_end)
         ]
+        transitions = [f"{{{state}, {target}}}" for state, target in self._entries]
         pages = "\n".join("    {{\n" + filled([str(one) for one in page], "        ") + "\n    }}," for page in self._pages)
         parts = [
-            array(f"const std::array<std::uint16_t, {len(targets)}> LexerTables::transitions", targets),
-            array(f"const std::array<std::uint8_t, {states}> LexerTables::typesAtEnd", automaton.accepts_at_end),
+            nested_array(f"const std::array<LexerTables::State, {len(states)}> LexerTables::states", states),
+            nested_array(f"const std::array<LexerTables::Transition, {len(transitions)}> LexerTables::transitions", transitions),
             array(f"const std::array<std::uint8_t, {len(self._page_of)}> LexerTables::pageOf", self._page_of),
             f"const std::array<std::array<std::uint8_t, 256>, {len(self._pages)}> LexerTables::pages = {{{{\n{pages}\n}}}};\n",
         ]
@@ -530,7 +591,7 @@ class AntlrLookahead:
         cases = "".join(
             f"    case {decision.number}:  // {decision.rule}\n{self._switch(choices, 1, '      ')}"
             for decision, choices in self._choices
-            if any(isinstance(outcome, list) or not outcome for _, outcome in choices[:-1])
+            if len(choices) > 1
         )
         return f"""{HEADER}#include "antlr/Lookahead.h"
 

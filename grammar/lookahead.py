@@ -141,7 +141,10 @@ class Lookahead:
         Where the outcome is empty it is not known. At a token that leads on from none of them, which
         the last choice is for, the runtime takes the first one that has left the rule.
         """
-        return self._exact_choices(self._fronts(decision), 1)
+        fronts = self._fronts(decision)
+        # Where one token always tells, the generated parser asks nobody.
+        is_told_by_one = all(len(nexts) == 1 for _, nexts in self._by_token(fronts))
+        return [] if is_told_by_one else self._exact_choices(fronts, 1)
 
     def _fronts(self, decision: Decision) -> list:
         return [(way, self._closure([(state, 0, False)])) for way, state in enumerate(decision.ways, 1)]

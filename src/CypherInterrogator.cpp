@@ -59,14 +59,17 @@ class Scope {
   }
 
   /// The type of a variable that is written so; Unknown if there is none.
-  CypherType typeOf(std::string_view written, Names& names) const {
+  [[nodiscard]] CypherType typeOf(std::string_view written) const {
     // Of three bytes at least one is left when quotes are taken out, but for two of them.
     if (written.size() > 3 * longestName_ + 2) {
       return CypherType::Unknown;
     }
-    const auto found = types_.find(names.of(written));
+    Names own;
+    const auto found = types_.find(own.of(written));
     return found == types_.end() ? CypherType::Unknown : found->second;
   }
+
+  [[nodiscard]] bool isStarred() const { return isStarred_; }
 
   /// The star stands for what is bound now.
   void star() {
@@ -123,22 +126,19 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
   // walk reaches after the projection around it, replaces that one's columns.
   class ResultColumnNamesAndTypesListener : public TreeListener {
    public:
-    explicit ResultColumnNamesAndTypesListener(const SyntaxTree& ofQuery) : tree(ofQuery) {}
+    explicit ResultColumnNamesAndTypesListener(const SyntaxTree& ofQuery) : tree(ofQuery) {
+      constexpr std::size_t usualCount = 8;
+      columns.reserve(usualCount);
+    }
 
     // Names bound in an earlier branch stay visible in the later ones.
     void enterOC_Union(const SyntaxTree::Node& /*node*/) {
-      std::size_t position = 0;
-      const auto merge = [&](std::string_view /*name*/, CypherType type) {
-        if (position == previousBranches.size()) {
-          previousBranches.push_back(type);
-        }
-        previousBranches[position] = mergedType(previousBranches[position], type);
-        ++position;
-      };
-      variables.forEachStarred(merge);
-      for (const Column& column : columns) {
-        merge(column.written, column.type);
+      // To merge the same star once more changes nothing, and a long query may have many of them.
+      const bool isStarOnly = variables.isStarred() && columns.empty();
+      if (!isStarOnly || isStarNew) {
+        mergeBranch();
       }
+      isStarNew = isStarNew && !isStarOnly;
       clearColumns();
     }
 
@@ -160,6 +160,7 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
       } else if (insideWith) {
         variables = Scope();
       }
+      isStarNew = isStarNew || insideWith;
       for (const Column& variable : carried) {
         variables.bind(names.of(variable.written), variable.type);
       }
@@ -193,7 +194,23 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
     }
 
    private:
+    void mergeBranch() {
+      std::size_t position = 0;
+      const auto merge = [&](std::string_view /*name*/, CypherType type) {
+        if (position == previousBranches.size()) {
+          previousBranches.push_back(type);
+        }
+        previousBranches[position] = mergedType(previousBranches[position], type);
+        ++position;
+      };
+      variables.forEachStarred(merge);
+      for (const Column& column : columns) {
+        merge(column.written, column.type);
+      }
+    }
+
     void bind(const SyntaxTree::Node& node, CypherType type) {
+      isStarNew = true;
       if (const auto* const variable = tree.child(node, TreeRule::oC_Variable)) {
         variables.bind(names.of(tree.textOf(*variable)), type);
       }
@@ -201,7 +218,7 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
 
     void project(const SyntaxTree::Node& item, std::vector<Column>& carried) {
       const std::string_view written = tree.textOf(*tree.child(item, TreeRule::oC_Expression));
-      const CypherType type = variables.typeOf(written, names);
+      const CypherType type = variables.typeOf(written);
       const auto* const alias = tree.child(item, TreeRule::oC_Variable);
       columns.push_back({alias == nullptr ? written : tree.textOf(*alias), type});
       // A bound variable of unknown kind passes a WITH only under an alias, be it its own name.
@@ -221,6 +238,7 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
     bool insideWith = false;
     std::vector<Column> columns;               // of the last projection, behind those of a star
     std::vector<CypherType> previousBranches;  // of the columns, merged by position
+    bool isStarNew = true;                     // if variables have changed since a star was merged
   };
 
   if (resultColumns.empty()) {

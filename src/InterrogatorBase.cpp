@@ -7,8 +7,9 @@
 
 namespace vorn {
 
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the first memory is raw.
 InterrogatorBase::InterrogatorBase(const WideString& text)
-    : utf8Text(StringUtf8ImplDetail::StringWideCharToUtf8Impl(text)), tree(utf8Text) {
+    : utf8Text(StringUtf8ImplDetail::StringWideCharToUtf8Impl(text)), tree(utf8Text, &treeMemory) {
   tokenise(tree);
 }
 

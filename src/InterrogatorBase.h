@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <memory_resource>
 #include <string>
 
 #include "parser/SyntaxTree.h"
@@ -24,6 +27,13 @@ class InterrogatorBase {
   [[noreturn]] static void refuseAsTooDeep();
 
   std::string utf8Text;
+
+ private:
+  // Holds the tree of a short text, which then needs no block from the heap.
+  std::array<std::byte, 2 * std::size_t{1024}> firstMemory;
+  std::pmr::monotonic_buffer_resource treeMemory{firstMemory.data(), firstMemory.size()};
+
+ protected:
   SyntaxTree tree;  // refers to the text
 };
 

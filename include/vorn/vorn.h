@@ -25,19 +25,32 @@
 ///
 /// A byte order mark at the start of a text is skipped and is not part of any answer.
 ///
-/// Two things a host should know that reads text of strangers:
+/// Nothing is kept between calls, so no memory grows and no call has to warm anything up. One thing
+/// is built once, by the first filter that is not valid from its first to its last character: the
+/// static data by which the place and the kind of an error are found.
 ///
-/// - The parser recurses. A text that nests too deeply for the calling thread's stack is refused by
-///   std::length_error, hence by status 1 from GetOutputNamesAndTypes. With 1 MiB of stack left,
-///   250 levels of any bracket fit; with 8 MiB, 2,000. A wrong text may be refused in the same way
-///   some levels earlier, since it takes stack to tell what is wrong. Where the platform cannot
-///   tell how large the stack is (a coroutine's on Linux), 64 KiB are assumed, enough for a few
-///   levels. There a coroutine must not have its stack inside that of a thread, whose size would
-///   be taken for its own. Less than 48 KiB may be refused whatever the text. Less than 20 KiB, on
-///   Windows 32 KiB, may not suffice to throw that exception: the process then ends by an overflow.
-/// - The tables by which the parser predicts are shared by the process. They grow with every new
-///   shape of text up to a bound, and are then begun anew. A text that nests deeply can also take
-///   time that grows faster than its length. So bound the length of what a stranger may send.
+/// What a host should know that reads untrusted input:
+///
+/// - **Time** to parse a valid text grows as its length does. A filter that is not valid from its
+///   first to its last character may take more, up to a bound. Beyond it the filter is refused.
+///   So bound the length of what you accept.
+/// - **Nesting** takes stack. A text that nests too deeply for the calling thread is refused before
+///   the stack overflows. So many levels of brackets and of `CASE` fit:
+///
+///   | Stack left | in a valid text | in any other filter |
+///   |---|---|---|
+///   | 1 MiB | 1,000 | 250 |
+///   | 8 MiB | 8,000 | 2,000 |
+///
+///   In a filter that is not valid `EXISTS {` counts as two levels.
+/// - **Small stacks**: from 48 KiB on every call is answered or refused. With less, any text may be
+///   refused. Less than 20 KiB, on Windows 32 KiB, may not suffice to throw the refusal: the
+///   process then ends by an overflow.
+/// - **Coroutines** on Linux: their stacks are taken to have 64 KiB. Such a stack must not lie
+///   inside that of a thread, whose size would be taken for its own.
+/// - **Size**: a text of 4 GiB or more in UTF-8 is refused.
+///
+/// Each of these refusals is a std::length_error, and status 1 from GetOutputNamesAndTypes.
 
 // NOLINTBEGIN(cppcoreguidelines-macro-usage): hosts compare versions in the preprocessor.
 
@@ -115,7 +128,8 @@ enum class CypherType : std::int32_t {
 /// @param query    The whole text of one query. It is only read.
 /// @param columns  On success replaced by the answer, whatever it held; on failure left as it was.
 /// @return 0 when the query was analysed, even if it has no columns; 1 when it was not, because the
-///         text is no openCypher query, is not well-formed UTF-16, or memory ran out.
+///         text is no openCypher query, is not well-formed UTF-16, nests too deeply for the stack,
+///         is too long, or because memory ran out.
 /// @throws Nothing.
 /// @note Thread-safe, as long as no other thread uses `columns` meanwhile.
 VORN_API std::int32_t GetOutputNamesAndTypes(
@@ -163,7 +177,9 @@ struct VariableUsage {
 ///         quantifier (`ALL`, `ANY`, `NONE`, `SINGLE`), a pattern predicate or an existential
 ///         subquery. The exception is of this very type, not of one derived from it; `what()` is
 ///         UTF-8 and names the type of the first such element.
-/// @throws std::length_error  The text nests too deeply for the stack.
+/// @throws std::length_error  The text nests too deeply for the stack, takes too long to be
+///         understood, or has 4 GiB or more in UTF-8.
+/// @throws std::bad_alloc  Memory ran out.
 /// @throws std::exception  Any other failure, as a type derived from it. For text that is no
 ///         openCypher expression `what()` is "line L:C " and a description in UTF-8, with L the
 ///         line, counted from 1, and C the place in the line in code points, counted from 0.
@@ -189,7 +205,8 @@ VORN_API std::map<WideString, VariableUsage> GetVariableUsagesInPropertyFilterOC
 ///         inside it doubled. If two old names mean one variable, the later one in the map's order
 ///         wins.
 /// @return The text of the expression with the names replaced.
-/// @throws std::length_error  The text nests too deeply for the stack.
+/// @throws std::length_error  As by GetVariableUsagesInPropertyFilterOCExpression.
+/// @throws std::bad_alloc  Memory ran out.
 /// @throws std::exception  Any other failure, as a type derived from it: a text that is no
 ///         openCypher expression, as above, or a text or a name, even an unused one, that is not
 ///         well formed.

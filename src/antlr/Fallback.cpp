@@ -4,14 +4,15 @@
 // is wrong.
 //
 // Four things differ from the runtime as it is, none of which changes an answer:
+//
 // - The lexer follows the compiled automaton (TableLexerSimulator).
+//
 // - Prediction asks the compiled lookahead first, and what it finds out belongs to the call, so
-// that
-//   nothing stays in the process and no lock is taken. Work beyond a bound ends the call
-//   (CallPredictor).
+//   nothing of it stays in the process. Work beyond a bound ends the call (CallPredictor).
+//
 // - The parser recurses with each level of nesting. The compiled lexer has all tokens by now, so
-// one
-//   look at the levels tells whether the stack has room for them (NestingLimit).
+//   one look at the levels tells whether the stack has room for them (NestingLimit).
+//
 // - A failed allocation leaves nothing behind (AntlrPipeline, CallPredictor, RecogniserTables).
 //
 // In the end the tree is turned into the one that the compiled parser would have built

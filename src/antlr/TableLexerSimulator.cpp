@@ -25,17 +25,17 @@ std::size_t TableLexerSimulator::match(antlr4::CharStream* input, std::size_t /*
   std::uint16_t state = LexerTables::start;
   std::size_t symbol = input->LA(1);
   for (; symbol != antlr4::Token::EOF; symbol = input->LA(1)) {
-    const std::uint8_t characterClass = LexerTables::classOf(static_cast<std::uint32_t>(symbol));
-    const std::uint16_t next = LexerTables::transitions[state + characterClass];
+    const std::uint16_t next =
+        LexerTables::next(state, LexerTables::classOf(static_cast<std::uint32_t>(symbol)));
     if (next == LexerTables::dead) {
       break;
     }
     state = next;
     consume(input);
-    accepts(LexerTables::typeOf(state));
+    accepts(LexerTables::states[state].type);
   }
   if (symbol == antlr4::Token::EOF) {
-    accepts(LexerTables::typeAtEnd(state));
+    accepts(LexerTables::states[state].typeAtEnd);
   }
   if (type != 0) {
     accept(input, nullptr, _startIndex, end.index, end.line, end.charPos);

@@ -16,7 +16,7 @@ namespace {
 
 class TreeConverter final : public CypherBaseListener {
  public:
-  explicit TreeConverter(std::vector<SyntaxTree::Node>& nodes) : nodes_(nodes) {}
+  explicit TreeConverter(std::pmr::vector<SyntaxTree::Node>& nodes) : nodes_(nodes) {}
 
   void enterEveryRule(antlr4::ParserRuleContext* context) override {
     if (const std::int8_t rule = treeRuleOf(*context); rule >= 0) {
@@ -42,7 +42,7 @@ class TreeConverter final : public CypherBaseListener {
     return static_cast<std::uint32_t>(token.getTokenIndex());
   }
 
-  std::vector<SyntaxTree::Node>& nodes_;
+  std::pmr::vector<SyntaxTree::Node>& nodes_;
   std::uint32_t open_ = SyntaxTree::none;  // the innermost node that has not ended
 };
 

@@ -25,112 +25,128 @@ class Lexer {
  public:
   explicit Lexer(SyntaxTree& tree)
       : tree_(tree),
-        text_(reinterpret_cast<const unsigned char*>(tree.text.data())),
-        size_(tree.text.size()) {}
+        begin_(reinterpret_cast<const unsigned char*>(tree.text.data())),
+        end_(begin_ + tree.text.size()) {}
 
   void run() {
-    if (size_ >= std::numeric_limits<std::uint32_t>::max()) {
+    const std::size_t size = tree_.text.size();
+    if (size >= std::numeric_limits<std::uint32_t>::max()) {
       throw std::length_error("the openCypher text is too long");
     }
+    const bool isMarked = tree_.text.substr(0, byteOrderMark.size()) == byteOrderMark;
+    const unsigned char* at = begin_ + (isMarked ? byteOrderMark.size() : 0);
+    makeRoom(std::min(size / 2, mostAtOnce));
     std::size_t count = 0;
-    std::size_t at =
-        tree_.text.substr(0, byteOrderMark.size()) == byteOrderMark ? byteOrderMark.size() : 0;
-    makeRoom(std::min(size_ / 2, mostAtOnce));
-    while (at < size_) {
+    while (at != end_) {
       const Token token = tokenAt(at);
       if (token.type == 0) {
         break;
       }
-      if (count == tree_.starts.size() - 1) {
+      if (count == room_) {
         makeRoom(2 * count);
       }
       tree_.types[count] = token.type;
-      tree_.starts[count] = static_cast<std::uint32_t>(at);
+      tree_.starts[count] = placeOf(at);
       ++count;
       at = token.end;
     }
-    tree_.isWhole = at == size_;
-    tree_.starts[count] = static_cast<std::uint32_t>(at);
+    tree_.isWhole = at == end_;
+    tree_.starts[count] = placeOf(at);
     tree_.starts.resize(count + 1);
-    tree_.types.resize(count);
-    tree_.types.resize(count + SyntaxTree::longestLookahead + 1, SyntaxTree::endOfText);
+    tree_.types.resize(count + endsOfText);
+    std::fill(tree_.types.begin() + static_cast<std::ptrdiff_t>(count), tree_.types.end(),
+              SyntaxTree::endOfText);
   }
 
  private:
   struct Token {
     std::uint8_t type;  // 0 if there is none
-    std::size_t end;
+    const unsigned char* end;
   };
 
   // Tokens of three bytes are usual, shorter ones are not rare, and some texts are one long token.
   static constexpr std::size_t mostAtOnce = std::size_t{1} << 20U;
+  static constexpr std::size_t endsOfText = SyntaxTree::longestLookahead + 1;
 
   void makeRoom(std::size_t tokens) {
-    constexpr std::size_t more = SyntaxTree::longestLookahead + 1;
-    tree_.types.resize(tokens + more);
-    tree_.starts.resize(tokens + more);
+    room_ = tokens + endsOfText;
+    tree_.types.resize(room_ + endsOfText);
+    tree_.starts.resize(room_ + 1);
   }
 
-  // The class of the character there, and moves on behind it.
-  std::uint8_t takeCharacter(std::size_t& at) const {
-    const unsigned lead = text_[at++];
-    return lead < 0x80 ? LexerTables::pages[0][lead] : classBeyondAscii(lead, at);
+  [[nodiscard]] std::uint32_t placeOf(const unsigned char* at) const {
+    return static_cast<std::uint32_t>(at - begin_);
   }
 
-  std::uint8_t classBeyondAscii(unsigned lead, std::size_t& at) const {
+  struct Character {
+    std::uint8_t itsClass;
+    const unsigned char* end;
+  };
+
+  static Character characterAt(const unsigned char* at) {
+    return *at < 0x80 ? Character{LexerTables::pages[0][*at], at + 1} : characterBeyondAscii(at);
+  }
+
+  [[gnu::noinline]] static Character characterBeyondAscii(const unsigned char* at) {
+    const unsigned lead = *at++;
     const int following = lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
     unsigned codePoint = lead & (0x3FU >> static_cast<unsigned>(following));
     for (int i = 0; i < following; ++i) {
-      codePoint = codePoint << 6U | (text_[at++] & 0x3FU);
+      codePoint = codePoint << 6U | (*at++ & 0x3FU);
     }
-    return LexerTables::classOf(codePoint);
+    return {LexerTables::classOf(codePoint), at};
   }
 
-  Token tokenAt(std::size_t start) {
+  Token tokenAt(const unsigned char* const start) {
     Token token{0, start};
     std::uint16_t acceptedState = LexerTables::start;
     std::uint16_t state = LexerTables::start;
-    std::size_t at = start;
-    for (std::size_t next = at; next < size_; at = next) {
-      const std::uint16_t target = LexerTables::transitions[state + takeCharacter(next)];
-      if (target == LexerTables::dead) {
+    const unsigned char* at = start;
+    while (at != end_) {
+      const Character character = characterAt(at);
+      const std::uint16_t next = LexerTables::next(state, character.itsClass);
+      if (next == LexerTables::dead) {
         break;
       }
-      state = target;
-      if (const std::uint8_t type = LexerTables::typeOf(state); type != 0) {
-        token = {type, next};
+      state = next;
+      at = character.end;
+      if (const std::uint8_t type = LexerTables::states[state].type; type != 0) {
+        token = {type, at};
         acceptedState = state;
-      } else if (hasFailed(state, next)) {
+      } else if (hasFailed(state, at)) {
         break;
       }
     }
-    if (at == size_) {
-      if (const std::uint8_t type = LexerTables::typeAtEnd(state); type != 0) {
+    if (at == end_) {
+      if (const std::uint8_t type = LexerTables::states[state].typeAtEnd; type != 0) {
         return {type, at};
       }
     }
-    constexpr std::size_t longWay = 64;
+    constexpr std::ptrdiff_t longWay = 64;
     if (token.type != 0 && at - token.end > longWay) {
       rememberFailure(acceptedState, token.end, at);
     }
     return token;
   }
 
-  [[nodiscard]] bool hasFailed(std::uint16_t state, std::size_t at) const {
-    return !failures_.empty() && failures_[at] == state;
+  [[nodiscard]] bool hasFailed(std::uint16_t state, const unsigned char* at) const {
+    return !failures_.empty() && failures_[placeOf(at)] == state;
   }
 
-  void rememberFailure(std::uint16_t state, std::size_t from, std::size_t to) {
-    failures_.resize(size_ + 1);
-    for (std::size_t at = from; at < to;) {
-      state = LexerTables::transitions[state + takeCharacter(at)];
-      failures_[at] = state;
+  void rememberFailure(std::uint16_t state, const unsigned char* at, const unsigned char* to) {
+    failures_.resize(tree_.text.size() + 1);
+    while (at != to) {
+      const Character character = characterAt(at);
+      state = LexerTables::next(state, character.itsClass);
+      at = character.end;
+      failures_[placeOf(at)] = state;
     }
   }
 
   SyntaxTree& tree_;
-  const unsigned char* text_;
-  std::size_t size_;
+  const unsigned char* begin_;
+  const unsigned char* end_;
+  std::size_t room_ = 0;                 // for tokens
   std::vector<std::uint16_t> failures_;  // by place: the state that led to no token there, or 0
 };
 

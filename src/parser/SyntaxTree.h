@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory_resource>
 #include <string_view>
 #include <vector>
 
@@ -26,7 +27,10 @@ struct SyntaxTree {
   /// How many tokens ahead may be asked for, whatever is left of the text.
   static constexpr std::size_t longestLookahead = 3;
 
-  explicit SyntaxTree(std::string_view utf8) : text(utf8) {}
+  /// The memory must outlive the tree, and the text too.
+  explicit SyntaxTree(std::string_view utf8,
+                      std::pmr::memory_resource* memory = std::pmr::get_default_resource())
+      : text(utf8), types(memory), starts(memory), nodes(memory) {}
 
   [[nodiscard]] std::size_t tokenCount() const { return starts.size() - 1; }
 
@@ -56,11 +60,11 @@ struct SyntaxTree {
     return nullptr;
   }
 
-  std::string_view text;              // UTF-8, which must outlive the tree
-  std::vector<std::uint8_t> types;    // of the tokens, then the end of the text, several times
-  std::vector<std::uint32_t> starts;  // of the tokens in bytes, then the end of the last one
-  bool isWhole = false;               // no character of the text is outside of all tokens
-  std::vector<Node> nodes;            // in the order of the text, each before those inside it
+  std::string_view text;                   // UTF-8, which must outlive the tree
+  std::pmr::vector<std::uint8_t> types;    // of the tokens, then the end of the text, several times
+  std::pmr::vector<std::uint32_t> starts;  // of the tokens in bytes, then the end of the last one
+  bool isWhole = false;                    // no character of the text is outside of all tokens
+  std::pmr::vector<Node> nodes;            // in the order of the text, each before those inside it
 
  private:
   [[nodiscard]] std::size_t placeOf(const Node& node) const {

@@ -15,7 +15,7 @@ enum class Terminals { Skipped, Visited };
 /// before those inside it; between them of each token of the first node, if these are visited.
 template <Terminals terminals = Terminals::Skipped, typename Listener>
 void walk(const SyntaxTree& tree, Listener& listener) {
-  const std::vector<SyntaxTree::Node>& nodes = tree.nodes;
+  const auto& nodes = tree.nodes;
   std::uint32_t token = nodes.empty() ? 0 : nodes.front().first;
   const auto visitBefore = [&](std::uint32_t end) {
     if constexpr (terminals == Terminals::Visited) {

@@ -7,17 +7,24 @@
 
 namespace vorn {
 
-/// The automaton of the lexer. A state is the place of its row in `transitions`, which has a column
-/// for each class of characters. No character is of class 0: there stands the type of the token that
-/// ends in the state, or 0.
+/// The automaton of the lexer over classes of characters.
 struct LexerTables {
-  static constexpr std::size_t classes = 102;
   static constexpr std::uint16_t dead = 0;
-  static constexpr std::uint16_t start = classes;
+  static constexpr std::uint16_t start = 1;
 
-  static const std::array<std::uint16_t, 34476> transitions;
-  /// By state, divided by `classes`: the type of the token that ends there where the text ends.
-  static const std::array<std::uint8_t, 338> typesAtEnd;
+  struct State {
+    std::uint16_t place;  // where its transitions begin
+    std::uint16_t like;   // the state that has those which it lacks
+    std::uint8_t type;    // of the token that ends there, or 0
+    std::uint8_t typeAtEnd;  // the same where the text ends
+  };
+  struct Transition {
+    std::uint16_t state;  // whose it is; of the dead state there are none
+    std::uint16_t target;
+  };
+
+  static const std::array<State, 338> states;
+  static const std::array<Transition, 1422> transitions;
   /// By code point, divided by 256: the page of its class.
   static const std::array<std::uint8_t, 4352> pageOf;
   static const std::array<std::array<std::uint8_t, 256>, 128> pages;
@@ -25,11 +32,16 @@ struct LexerTables {
   static std::uint8_t classOf(std::uint32_t codePoint) {
     return pages[pageOf[codePoint / 256]][codePoint % 256];
   }
-  /// The type of the token that ends in a state, or 0.
-  static std::uint8_t typeOf(std::uint16_t state) {
-    return static_cast<std::uint8_t>(transitions[state]);
+
+  static std::uint16_t next(std::uint16_t state, std::uint8_t characterClass) {
+    const Transition& own = transitions[states[state].place + std::size_t{characterClass}];
+    if (own.state == state) {
+      return own.target;
+    }
+    const std::uint16_t like = states[state].like;
+    const Transition& other = transitions[states[like].place + std::size_t{characterClass}];
+    return other.state == like ? other.target : dead;
   }
-  static std::uint8_t typeAtEnd(std::uint16_t state) { return typesAtEnd[state / classes]; }
 };
 
 }  // namespace vorn

@@ -170,6 +170,15 @@ std::size_t lookaheadAlternative(std::size_t decision, antlr4::TokenStream& toke
         default:
           return 2;
       }
+    case 19:  // oC_SinglePartQuery
+      switch (tokens.LA(1)) {
+        case 52: case 54: case 55: case 56: case 57: case 58:
+          return 2;
+        case 62:
+          return 1;
+        default:
+          return 0;
+      }
     case 25:  // oC_MultiPartQuery
       switch (tokens.LA(1)) {
         case 57:
@@ -1066,6 +1075,38 @@ std::size_t lookaheadAlternative(std::size_t decision, antlr4::TokenStream& toke
           }
         default:
           return 2;
+      }
+    case 117:  // oC_RelationshipPattern
+      switch (tokens.LA(1)) {
+        case 8: case 19: case 35: case 36: case 37: case 38: case 39: case 40: case 41: case 42:
+        case 43: case 44: case 45:
+          return 2;
+        default:
+          return 0;
+      }
+    case 122:  // oC_RelationshipPattern
+      switch (tokens.LA(1)) {
+        case 8: case 19: case 35: case 36: case 37: case 38: case 39: case 40: case 41: case 42:
+        case 43: case 44: case 45:
+          return 2;
+        default:
+          return 0;
+      }
+    case 125:  // oC_RelationshipPattern
+      switch (tokens.LA(1)) {
+        case 8: case 19: case 35: case 36: case 37: case 38: case 39: case 40: case 41: case 42:
+        case 43: case 44: case 45:
+          return 2;
+        default:
+          return 0;
+      }
+    case 129:  // oC_RelationshipPattern
+      switch (tokens.LA(1)) {
+        case 8: case 19: case 35: case 36: case 37: case 38: case 39: case 40: case 41: case 42:
+        case 43: case 44: case 45:
+          return 2;
+        default:
+          return 0;
       }
     case 132:  // oC_RelationshipPattern
       switch (tokens.LA(1)) {
