@@ -186,6 +186,9 @@ struct LexerTables {{
     return pages[pageOf[codePoint / 256]][codePoint % 256];
   }}
 
+  static std::uint8_t typeOf(std::uint16_t state) {{ return states[state].type; }}
+  static std::uint8_t typeAtEnd(std::uint16_t state) {{ return states[state].typeAtEnd; }}
+
   static std::uint16_t next(std::uint16_t state, std::uint8_t characterClass) {{
     const Transition& own = transitions[states[state].place + std::size_t{{characterClass}}];
     if (own.state == state) {{
@@ -222,6 +225,7 @@ class RuleFunctions:
 
     def __init__(self, grammar: Grammar) -> None:
         self._rules = rules_to_compile(grammar, STARTS)
+        self._white_space = grammar.token_types["SP"]
         self._names = {number: name for name, number in grammar.token_types.items()} | {0: "the end"}
         network = Network(self._rules, STARTS)
         lookahead = Lookahead(network)
@@ -297,7 +301,9 @@ class Rules final : public RuleParser<Rules> {{
 
 Verdict parseQuery(SyntaxTree& tree) {{ return Rules(tree).parse(&Rules::{STARTS[0]}); }}
 
-Verdict parseExpression(SyntaxTree& tree) {{ return Rules(tree).parse(&Rules::{STARTS[1]}); }}
+Verdict parseExpression(SyntaxTree& tree) {{
+  return Rules(tree).parse(&Rules::{STARTS[1]}, {self._white_space});
+}}
 
 }}  // namespace vorn
 """
@@ -323,8 +329,7 @@ Verdict parseExpression(SyntaxTree& tree) {{ return Rules(tree).parse(&Rules::{S
         """`is_last` says that a call of the rule itself may start it anew instead."""
         kind = expression[0]
         if kind == "sequence":
-            *parts, last = expression[1]
-            return "".join(self._code(part, indent) for part in parts) + self._code(last, indent, is_last)
+            return self._sequence(expression[1], indent, is_last)
         if kind == "rule" and is_last and expression[1] == self._rule:
             return f"{indent}continue;\n"
         if kind == "rule":
@@ -334,6 +339,30 @@ Verdict parseExpression(SyntaxTree& tree) {{ return Rules(tree).parse(&Rules::{S
         if kind == "choice" or (kind == "optional" and expression[1][0] == "choice"):
             return self._choice(expression, indent, is_last)
         return self._repetition(expression, indent, is_last)
+
+    def _sequence(self, parts: tuple, indent: str, is_last: bool) -> str:
+        code = ""
+        place = 0
+        while place < len(parts):
+            separators = separators_of(parts[place : place + 2])
+            if separators:
+                code += self._list(parts[place], separators, indent)
+                place += 2
+            else:
+                code += self._code(parts[place], indent, is_last and place == len(parts) - 1)
+                place += 1
+        return code
+
+    def _list(self, element: tuple, separators: tuple, indent: str) -> str:
+        """With one call of the element's rule the compiler makes one function of many, with one frame."""
+        element_code = self._code(element, indent + "  ")
+        decision = self._next_decision()
+        condition = self._condition(self._choices[(decision.rule, decision.ordinal)])
+        separator_code = self._sequence(separators, indent + "  ", False)
+        return (
+            f"{indent}while (true) {{\n{element_code}{indent}  if (!({condition})) {{\n"
+            f"{indent}    break;\n{indent}  }}\n{separator_code}{indent}}}\n"
+        )
 
     def _repetition(self, expression: tuple, indent: str, is_last: bool) -> str:
         kind, body = expression
@@ -472,6 +501,14 @@ class Alternatives:
 
     def case(self, label: str, number: int, indent: str) -> str:
         return self.cases([label], number, indent)
+
+
+def separators_of(parts: tuple) -> tuple:
+    """Of `rule ( separators rule )*` the separators, else nothing."""
+    if len(parts) != 2 or parts[0][0] != "rule" or parts[1][0] != "star" or parts[1][1][0] != "sequence":
+        return ()
+    *separators, last = parts[1][1][1]
+    return tuple(separators) if last == parts[0] else ()
 
 
 def names_in_front(expression: tuple) -> list:

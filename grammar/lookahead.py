@@ -1,7 +1,7 @@
 """Tells the alternatives of each decision of the parser rules apart by the tokens ahead.
 
 The rules become a network of states as the ANTLR tool builds it: silent edges, edges for sets of
-tokens, and calls of rules. From a decision each alternative is followed for up to three tokens; at the
+tokens, and calls of rules. From a decision each alternative is followed for a few tokens; at the
 end of the decision's rule the way goes on behind every place that calls it. What one alternative can
 do within the rule, and an earlier one can do as well, belongs to the earlier one.
 """

@@ -88,11 +88,13 @@ def with_shared_beginnings(expression: tuple) -> tuple:
 def choice(alternatives: list) -> tuple:
     """A choice between sequences of elements, of which neighbours share what they begin with."""
     ending = shared_ending(alternatives)
-    if ending:
+    if ending and len(alternatives) > 1:
         heads = [alternative[:-len(ending)] for alternative in alternatives]
         if all(len(head) == 1 and head[0][0] == "token" for head in heads):
             types = frozenset().union(*(head[0][1] for head in heads))
             return sequence((("token", types), *ending))
+        if () in heads:
+            return sequence((("optional", choice([head for head in heads if head])), *ending))
     groups = []
     for alternative in alternatives:
         if groups and groups[-1][0][:1] == alternative[:1]:

@@ -59,6 +59,7 @@ StackBounds boundsFrom(const void* end, std::size_t size) {
 // kernel writes the program's path at the top of that stack, but for one word, and lets the stack
 // grow from there up to a limit that may change at any time.
 std::uintptr_t mainStackTop() {
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): the kernel hands addresses over as numbers.
   const auto* const path = reinterpret_cast<const char*>(getauxval(AT_EXECFN));
   if (path == nullptr) {
     return 0;
@@ -123,7 +124,7 @@ StackBounds currentBounds(std::uintptr_t position) {
 
 std::uintptr_t stackEnd(std::uintptr_t position) {
   // What is left to assume of a stack that the platform knows nothing of.
-  constexpr std::uintptr_t assumedSize = std::uintptr_t{64} * 1024;
+  constexpr std::uintptr_t assumedSize = std::uintptr_t{48} * 1024;
   const StackBounds bounds = currentBounds(position);
   if (!bounds.hold(position)) {
     return position - assumedSize;

@@ -121,6 +121,7 @@ CypherInterrogator::CypherInterrogator(const WideString& query) : InterrogatorBa
   }
 }
 
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): of all operations of the local class.
 std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultColumnNamesAndTypes() {
   // All work is done when a construct is entered. So a projection inside an expression, which the
   // walk reaches after the projection around it, replaces that one's columns.
@@ -135,10 +136,12 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
     void enterOC_Union(const SyntaxTree::Node& /*node*/) {
       // To merge the same star once more changes nothing, and a long query may have many of them.
       const bool isStarOnly = variables.isStarred() && columns.empty();
-      if (!isStarOnly || isStarNew) {
+      if (!isStarOnly || starChanges != mergedChanges) {
         mergeBranch();
       }
-      isStarNew = isStarNew && !isStarOnly;
+      if (isStarOnly) {
+        mergedChanges = starChanges;
+      }
       clearColumns();
     }
 
@@ -160,7 +163,8 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
       } else if (insideWith) {
         variables = Scope();
       }
-      isStarNew = isStarNew || insideWith;
+      starChanges = changes;
+      changes += insideWith ? 1 : 0;
       for (const Column& variable : carried) {
         variables.bind(names.of(variable.written), variable.type);
       }
@@ -210,7 +214,7 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
     }
 
     void bind(const SyntaxTree::Node& node, CypherType type) {
-      isStarNew = true;
+      ++changes;
       if (const auto* const variable = tree.child(node, TreeRule::oC_Variable)) {
         variables.bind(names.of(tree.textOf(*variable)), type);
       }
@@ -238,7 +242,11 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
     bool insideWith = false;
     std::vector<Column> columns;               // of the last projection, behind those of a star
     std::vector<CypherType> previousBranches;  // of the columns, merged by position
-    bool isStarNew = true;                     // if variables have changed since a star was merged
+    // How often variables may have changed: by now, before the last star, and before the last one
+    // that was merged.
+    std::size_t changes = 1;
+    std::size_t starChanges = 0;
+    std::size_t mergedChanges = 0;
   };
 
   if (resultColumns.empty()) {

@@ -20,7 +20,8 @@ from collections import defaultdict
 
 HERE = pathlib.Path(__file__).parent
 FIGURES = HERE / 'figures.json'
-LIMIT = 1.05
+# A filter with an error is predicted by tables of its own, which bare's calls share and have filled.
+LIMIT = 1.25
 SHAPE_SIZES = ('1', '64')
 GROWTH = 1.02
 

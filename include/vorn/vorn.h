@@ -48,7 +48,7 @@
 ///   process then ends by an overflow.
 /// - **Coroutines** on Linux: their stacks are taken to have 64 KiB. Such a stack must not lie
 ///   inside that of a thread, whose size would be taken for its own.
-/// - **Size**: a text of 4 GiB or more in UTF-8 is refused.
+/// - **Size**: a text of more than 1 GiB in UTF-8 is refused.
 ///
 /// Each of these refusals is a std::length_error, and status 1 from GetOutputNamesAndTypes.
 
@@ -178,7 +178,7 @@ struct VariableUsage {
 ///         subquery. The exception is of this very type, not of one derived from it; `what()` is
 ///         UTF-8 and names the type of the first such element.
 /// @throws std::length_error  The text nests too deeply for the stack, takes too long to be
-///         understood, or has 4 GiB or more in UTF-8.
+///         understood, or has more than 1 GiB in UTF-8.
 /// @throws std::bad_alloc  Memory ran out.
 /// @throws std::exception  Any other failure, as a type derived from it. For text that is no
 ///         openCypher expression `what()` is "line L:C " and a description in UTF-8, with L the

@@ -12,7 +12,7 @@ namespace vorn {
 namespace {
 
 // What a parse needs at any depth: prediction within one level, and throwing. Measured are 24 KiB.
-constexpr std::size_t reserve = std::size_t{40} * 1024;
+constexpr std::size_t reserve = std::size_t{32} * 1024;
 
 // The parser takes some 1,000 bytes, and the search for what may follow an error as much again and
 // a half: 2,450 at most. Windows takes 1.6 times as much.
@@ -109,7 +109,7 @@ class Levels {
 
 void refuseTooDeep(const std::uint8_t* tokenTypes, std::size_t count) {
   Levels levels;
-  std::for_each(tokenTypes, tokenTypes + count, [&](std::size_t type) { levels.read(type); });
+  std::for_each_n(tokenTypes, count, [&](std::size_t type) { levels.read(type); });
   const std::uintptr_t position = stackPosition();
   if (position - stackEnd(position) < reserve + levels.deepest() * bytesOfLevel) {
     throw std::length_error("the openCypher text nests too deeply for the stack");

@@ -32,10 +32,10 @@ std::size_t TableLexerSimulator::match(antlr4::CharStream* input, std::size_t /*
     }
     state = next;
     consume(input);
-    accepts(LexerTables::states[state].type);
+    accepts(LexerTables::typeOf(state));
   }
   if (symbol == antlr4::Token::EOF) {
-    accepts(LexerTables::states[state].typeAtEnd);
+    accepts(LexerTables::typeAtEnd(state));
   }
   if (type != 0) {
     accept(input, nullptr, _startIndex, end.index, end.line, end.charPos);

@@ -35,7 +35,7 @@ class TreeConverter final : public CypherBaseListener {
 
  private:
   static std::int8_t treeRuleOf(const antlr4::ParserRuleContext& context) {
-    return treeRuleOfParserRule[context.getRuleIndex()];
+    return treeRuleOfParserRule.at(context.getRuleIndex());
   }
 
   static std::uint32_t indexOf(const antlr4::Token& token) {

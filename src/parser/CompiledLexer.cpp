@@ -10,7 +10,6 @@
 #include "parser/CompiledLexer.h"
 
 #include <algorithm>
-#include <limits>
 #include <stdexcept>
 
 #include "LexerTables.h"
@@ -21,6 +20,8 @@ namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
+// NOLINTBEGIN(cppcoreguidelines-pro-bounds-*,cppcoreguidelines-pro-type-reinterpret-cast): it goes
+// through bytes one by one.
 class Lexer {
  public:
   explicit Lexer(SyntaxTree& tree)
@@ -30,7 +31,9 @@ class Lexer {
 
   void run() {
     const std::size_t size = tree_.text.size();
-    if (size >= std::numeric_limits<std::uint32_t>::max()) {
+    // The nodes, up to two for each byte, are numbered by 32 bits.
+    constexpr std::size_t longest = std::size_t{1} << 30U;
+    if (size > longest) {
       throw std::length_error("the openCypher text is too long");
     }
     const bool isMarked = tree_.text.substr(0, byteOrderMark.size()) == byteOrderMark;
@@ -110,7 +113,7 @@ class Lexer {
       }
       state = next;
       at = character.end;
-      if (const std::uint8_t type = LexerTables::states[state].type; type != 0) {
+      if (const std::uint8_t type = LexerTables::typeOf(state); type != 0) {
         token = {type, at};
         acceptedState = state;
       } else if (hasFailed(state, at)) {
@@ -118,7 +121,7 @@ class Lexer {
       }
     }
     if (at == end_) {
-      if (const std::uint8_t type = LexerTables::states[state].typeAtEnd; type != 0) {
+      if (const std::uint8_t type = LexerTables::typeAtEnd(state); type != 0) {
         return {type, at};
       }
     }
@@ -130,25 +133,28 @@ class Lexer {
   }
 
   [[nodiscard]] bool hasFailed(std::uint16_t state, const unsigned char* at) const {
-    return !failures_.empty() && failures_[placeOf(at)] == state;
+    return !failures_.empty() && !failures_[state].empty() && failures_[state][placeOf(at)];
   }
 
   void rememberFailure(std::uint16_t state, const unsigned char* at, const unsigned char* to) {
-    failures_.resize(tree_.text.size() + 1);
+    failures_.resize(LexerTables::states.size());
     while (at != to) {
       const Character character = characterAt(at);
       state = LexerTables::next(state, character.itsClass);
       at = character.end;
-      failures_[placeOf(at)] = state;
+      failures_[state].resize(tree_.text.size() + 1);
+      failures_[state][placeOf(at)] = true;
     }
   }
 
   SyntaxTree& tree_;
   const unsigned char* begin_;
   const unsigned char* end_;
-  std::size_t room_ = 0;                 // for tokens
-  std::vector<std::uint16_t> failures_;  // by place: the state that led to no token there, or 0
+  std::size_t room_ = 0;                     // for tokens
+  std::vector<std::vector<bool>> failures_;  // by state and place: whether no token came of it
 };
+
+// NOLINTEND(cppcoreguidelines-pro-bounds-*,cppcoreguidelines-pro-type-reinterpret-cast)
 
 }  // namespace
 

@@ -10,7 +10,9 @@ enum class Verdict { Accepted, Refused, TooDeep };
 /// query is accepted.
 Verdict parseQuery(SyntaxTree& tree);
 
-/// The same for one expression from the first to the last token.
+/// The same for one expression from the first to the last token. White space may stand behind it:
+/// each decision that reads so far finds the end of the text there, and can only leave the
+/// expression.
 Verdict parseExpression(SyntaxTree& tree);
 
 }  // namespace vorn

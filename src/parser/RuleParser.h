@@ -4,9 +4,9 @@
 // from the current position on and says whether they are there. Looking up to three tokens ahead
 // decides between alternatives, but for the few places where they are tried in order.
 //
-// A trial only recognises: it adds no nodes, and what it finds at a token is remembered. So every
-// place is tried once, however deep the trials around it are, and the time stays linear. Behind the
-// trials the parser goes on along what is remembered, and never has to take back a node.
+// A trial only recognises: it adds no nodes. What the trials inside it find is remembered by token,
+// so none of them is made twice, however deep they lie, and the time stays linear. Behind a trial
+// the parser goes on along what is remembered, and never has to take back a node.
 //
 // Nothing is thrown on the way. The stack is looked at in those rules that every recursion passes.
 
@@ -52,8 +52,11 @@ class RuleParser {
     tree.nodes.reserve(tree.tokenCount());
   }
 
-  Verdict parse(Rule start) {
-    const bool matches = tree_.isWhole && call(start) && position_ >= tree_.tokenCount();
+  /// A last token of the given type may follow.
+  Verdict parse(Rule start, std::uint8_t follower = SyntaxTree::endOfText) {
+    bool matches = tree_.isWhole && call(start);
+    skip(follower);
+    matches = matches && position_ >= tree_.tokenCount();
     return isTooDeep_ ? Verdict::TooDeep : matches ? Verdict::Accepted : Verdict::Refused;
   }
 
@@ -172,19 +175,20 @@ class RuleParser {
   std::uintptr_t knownStackEnd() {
     if (!isStackKnown_) {
       isStackKnown_ = true;
-      stackEnd_ = stackEnd(stackPosition()) + stackReserve;
+      stackEnd_ = stackEnd(stackStart_) + stackReserve;
     }
     return stackEnd_;
   }
 
-  // Every stack has room for this.
+  // Every stack has this much left.
   static constexpr std::uintptr_t smallStack = std::uintptr_t{8} * 1024;
   // What the functions of rules between two checks of the stack may take, and what they call.
   static constexpr std::uintptr_t stackReserve = std::uintptr_t{16} * 1024;
 
   SyntaxTree& tree_;
   const std::uint8_t* types_;
-  std::uintptr_t stackEnd_ = stackPosition() - smallStack;
+  std::uintptr_t stackStart_ = stackPosition();
+  std::uintptr_t stackEnd_ = stackStart_ - smallStack;
   bool isStackKnown_ = false;
   std::uint32_t position_ = 0;               // of the next token
   std::uint32_t parent_ = SyntaxTree::none;  // the innermost node that is open

@@ -14,10 +14,10 @@ namespace vorn {
 /// the other by pointers: a node is a range of tokens, a token a place in the text.
 struct SyntaxTree {
   struct Node {
-    TreeRule rule;
-    std::uint32_t first;          // token
-    std::uint32_t last;           // token, not before the first
-    std::uint32_t end;            // the node behind the last one inside this one
+    TreeRule rule{};
+    std::uint32_t first = 0;      // token
+    std::uint32_t last = 0;       // token, not before the first
+    std::uint32_t end = 0;        // the node behind the last one inside this one
     std::uint32_t parent = none;  // the node around this one
   };
   static constexpr std::uint32_t none = 0xFFFFFFFF;

@@ -63,6 +63,19 @@ TEST(Union, LeavesNamesOfEarlierBranchesInScope) {
             answered({{"n", node}, {"r", relationship}}));
 }
 
+TEST(Union, ComparesEachStarAsItsBranchHasIt) {
+  // What is bound behind a star, as in its ORDER BY, is in the next branch's star only.
+  EXPECT_EQ(analyse("MATCH (a) RETURN * ORDER BY EXISTS { (z) } UNION RETURN * "
+                    "UNION MATCH ()-[z]->() RETURN *"),
+            answered({{"a", node}, {"z", nodeOrRelationship}}));
+  EXPECT_EQ(
+      analyse("MATCH (a) RETURN * UNION RETURN * UNION MATCH ()-[a]->() RETURN * UNION RETURN *"),
+      answered({{"a", nodeOrRelationship}}));
+  EXPECT_EQ(analyse("MATCH (a) RETURN * UNION MATCH ()-[b]->() WITH b AS a RETURN * "
+                    "UNION MATCH p = (a) RETURN p AS a"),
+            answered({{"a", unknown}}));
+}
+
 TEST(Union, OfBranchesThatUpdateHasNoColumns) {
   EXPECT_EQ(analyse("CREATE (n) UNION CREATE (m)"), answered({}));
   EXPECT_EQ(analyse("MATCH (n) RETURN n UNION CREATE (m)"), answered({}));

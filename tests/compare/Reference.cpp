@@ -109,9 +109,12 @@ void Reference::lex(std::string_view utf8) {
 }
 
 void Reference::readTree(Entry entry) {
-  found.accepted =
-      found.lexed && (entry == Entry::Query ||
-                      pipeline->tree->getStop()->getTokenIndex() + 1 == found.tokens.size());
+  // White space behind an expression belongs to none.
+  std::size_t end = pipeline->tree->getStop()->getTokenIndex() + 1;
+  if (end + 1 == found.tokens.size() && found.tokens[end].type == vorn::CypherParser::SP) {
+    ++end;
+  }
+  found.accepted = found.lexed && (entry == Entry::Query || end == found.tokens.size());
   if (found.accepted) {
     collect(*pipeline->tree, found.nodes);
   }

@@ -35,7 +35,7 @@ struct Node {
 struct Parse {
   bool lexed = false;         // the lexer gets to the end
   std::vector<Token> tokens;  // if it does: all but the end of the text
-  bool accepted = false;      // the tree holds every token
+  bool accepted = false;      // the tree holds every token, but for white space behind a filter
   std::vector<Node> nodes;    // if it does
 };
 

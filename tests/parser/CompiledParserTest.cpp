@@ -57,10 +57,11 @@ TEST(CompiledParser, WantsAQueryFromTheFirstToTheLastToken) {
 }
 
 TEST(CompiledParser, WantsAnExpressionFromTheFirstToTheLastToken) {
-  for (const char* expression : {"n.a", "1", "\uFEFFn", "n.a = 1 AND NOT n.b"}) {
+  for (const char* expression : {"n.a", "1", "\uFEFFn", "n.a = 1 AND NOT n.b", "n ", "n\n",
+                                 "n // c", "(a)-[b]-(c) /* d */ "}) {
     EXPECT_EQ(verdictOnExpression(expression), Verdict::Accepted) << expression;
   }
-  for (const char* text : {"", " n", "n ", "n RETURN", "n ?", "RETURN 1", "n.", "(n"}) {
+  for (const char* text : {"", " ", " n", "n RETURN", "n ?", "n + ", "RETURN 1", "n.", "(n"}) {
     EXPECT_EQ(verdictOnExpression(text), Verdict::Refused) << text;
   }
 }

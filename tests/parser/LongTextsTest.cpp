@@ -89,6 +89,13 @@ const std::vector<std::pair<std::string, std::string>>& piecesAndEnds() {
   return all;
 }
 
+TEST(ManyTokens, BehindCommentsOfBothKindsThatAreNotClosedAreDivided) {
+  // A line comment ends with a line feed, so a lone carriage return leaves all of these open.
+  const CompiledText compiled(repeated("/* // ", many) + "\rx");
+  EXPECT_TRUE(compiled.tree().isWhole);
+  EXPECT_EQ(compiled.types().front(), Lexer::T__19);
+}
+
 TEST(ManyPieces, ThatMayBelongToOneTokenEnd) {
   for (const auto& [piece, end] : piecesAndEnds()) {
     const CompiledText compiled(repeated(piece, many) + end);

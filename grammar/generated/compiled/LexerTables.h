@@ -33,6 +33,9 @@ struct LexerTables {
     return pages[pageOf[codePoint / 256]][codePoint % 256];
   }
 
+  static std::uint8_t typeOf(std::uint16_t state) { return states[state].type; }
+  static std::uint8_t typeAtEnd(std::uint16_t state) { return states[state].typeAtEnd; }
+
   static std::uint16_t next(std::uint16_t state, std::uint8_t characterClass) {
     const Transition& own = transitions[states[state].place + std::size_t{characterClass}];
     if (own.state == state) {

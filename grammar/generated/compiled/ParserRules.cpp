@@ -222,39 +222,17 @@ bool Rules::oC_Union() {
   if (!take(46)) {
     return false;
   }
-  switch (ahead(0)) {
-    case 48: case 49: case 50: case 52: case 54: case 55: case 56: case 57: case 58: case 59:
-    case 61: case 62:
-      if (!oC_SingleQuery()) {
-        return false;
-      }
-      break;
-    case 127:
-      if (!take(127)) {
-        return false;
-      }
-      switch (ahead(0)) {
-        case 47:
-          if (!take(47)) {
-            return false;
-          }
-          skip(127);
-          if (!oC_SingleQuery()) {
-            return false;
-          }
-          break;
-        case 48: case 49: case 50: case 52: case 54: case 55: case 56: case 57: case 58: case 59:
-        case 61: case 62:
-          if (!oC_SingleQuery()) {
-            return false;
-          }
-          break;
-        default:
-          return false;
-      }
-      break;
-    default:
+  if ((ahead(0) == 127 && ahead(1) == 47)) {
+    if (!take(127)) {
       return false;
+    }
+    if (!take(47)) {
+      return false;
+    }
+  }
+  skip(127);
+  if (!oC_SingleQuery()) {
+    return false;
   }
   close(node);
   return true;
@@ -270,14 +248,14 @@ bool Rules::oC_SingleQuery() {
     }
     switch (ahead(0)) {
       case 52: case 54: case 55: case 56: case 57: case 58:
-        if (!oC_UpdatingClause()) {
-          return false;
-        }
-        while (set0.holds(ahead(0)) || (ahead(0) == 127 && set0.holds(ahead(1)))) {
-          skip(127);
+        while (true) {
           if (!oC_UpdatingClause()) {
             return false;
           }
+          if (!(set0.holds(ahead(0)) || (ahead(0) == 127 && set0.holds(ahead(1))))) {
+            break;
+          }
+          skip(127);
         }
         if ((ahead(0) == 61 || ahead(0) == 62) || (ahead(0) == 127 && ((ahead(1) == 61 || ahead(1) == 62)))) {
           skip(127);
@@ -476,18 +454,18 @@ bool Rules::oC_Set() {
     return false;
   }
   skip(127);
-  if (!oC_SetItem()) {
-    return false;
-  }
-  while (ahead(0) == 2 || (ahead(0) == 127 && ahead(1) == 2)) {
+  while (true) {
+    if (!oC_SetItem()) {
+      return false;
+    }
+    if (!(ahead(0) == 2 || (ahead(0) == 127 && ahead(1) == 2))) {
+      break;
+    }
     skip(127);
     if (!take(2)) {
       return false;
     }
     skip(127);
-    if (!oC_SetItem()) {
-      return false;
-    }
   }
   return true;
 }
@@ -586,18 +564,18 @@ bool Rules::oC_Delete() {
     return false;
   }
   skip(127);
-  if (!oC_Expression()) {
-    return false;
-  }
-  while (ahead(0) == 2 || (ahead(0) == 127 && ahead(1) == 2)) {
+  while (true) {
+    if (!oC_Expression()) {
+      return false;
+    }
+    if (!(ahead(0) == 2 || (ahead(0) == 127 && ahead(1) == 2))) {
+      break;
+    }
     skip(127);
     if (!take(2)) {
       return false;
     }
     skip(127);
-    if (!oC_Expression()) {
-      return false;
-    }
   }
   return true;
 }
@@ -609,18 +587,18 @@ bool Rules::oC_Remove() {
   if (!take(127)) {
     return false;
   }
-  if (!oC_RemoveItem()) {
-    return false;
-  }
-  while (ahead(0) == 2 || (ahead(0) == 127 && ahead(1) == 2)) {
+  while (true) {
+    if (!oC_RemoveItem()) {
+      return false;
+    }
+    if (!(ahead(0) == 2 || (ahead(0) == 127 && ahead(1) == 2))) {
+      break;
+    }
     skip(127);
     if (!take(2)) {
       return false;
     }
     skip(127);
-    if (!oC_RemoveItem()) {
-      return false;
-    }
   }
   return true;
 }
@@ -773,18 +751,18 @@ bool Rules::oC_StandaloneCall() {
 }
 
 bool Rules::oC_YieldItems() {
-  if (!oC_YieldItem()) {
-    return false;
-  }
-  while (ahead(0) == 2 || (ahead(0) == 127 && ahead(1) == 2)) {
+  while (true) {
+    if (!oC_YieldItem()) {
+      return false;
+    }
+    if (!(ahead(0) == 2 || (ahead(0) == 127 && ahead(1) == 2))) {
+      break;
+    }
     skip(127);
     if (!take(2)) {
       return false;
     }
     skip(127);
-    if (!oC_YieldItem()) {
-      return false;
-    }
   }
   if (ahead(0) == 72 || (ahead(0) == 127 && ahead(1) == 72)) {
     skip(127);
@@ -905,18 +883,18 @@ bool Rules::oC_ProjectionItems() {
     case 6: case 8: case 18: case 19: case 24: case 26: case 47: case 78: case 84: case 85: case 86:
     case 91: case 92: case 93: case 94: case 95: case 96: case 97: case 98: case 99: case 100:
     case 107: case 108: case 109: case 121: case 122: case 123: case 126:
-      if (!oC_ProjectionItem()) {
-        return false;
-      }
-      while (ahead(0) == 2 || (ahead(0) == 127 && ahead(1) == 2)) {
+      while (true) {
+        if (!oC_ProjectionItem()) {
+          return false;
+        }
+        if (!(ahead(0) == 2 || (ahead(0) == 127 && ahead(1) == 2))) {
+          break;
+        }
         skip(127);
         if (!take(2)) {
           return false;
         }
         skip(127);
-        if (!oC_ProjectionItem()) {
-          return false;
-        }
       }
       break;
     default:
@@ -962,17 +940,17 @@ bool Rules::oC_Order() {
   if (!take(127)) {
     return false;
   }
-  if (!oC_SortItem()) {
-    return false;
-  }
-  while (ahead(0) == 2) {
+  while (true) {
+    if (!oC_SortItem()) {
+      return false;
+    }
+    if (!(ahead(0) == 2)) {
+      break;
+    }
     if (!take(2)) {
       return false;
     }
     skip(127);
-    if (!oC_SortItem()) {
-      return false;
-    }
   }
   return true;
 }
@@ -1030,45 +1008,36 @@ bool Rules::oC_Where() {
 }
 
 bool Rules::oC_Pattern() {
-  if (!oC_PatternPart()) {
-    return false;
-  }
-  while (ahead(0) == 2 || (ahead(0) == 127 && ahead(1) == 2)) {
+  while (true) {
+    if (!oC_PatternPart()) {
+      return false;
+    }
+    if (!(ahead(0) == 2 || (ahead(0) == 127 && ahead(1) == 2))) {
+      break;
+    }
     skip(127);
     if (!take(2)) {
       return false;
     }
     skip(127);
-    if (!oC_PatternPart()) {
-      return false;
-    }
   }
   return true;
 }
 
 bool Rules::oC_PatternPart() {
   const std::uint32_t node = open(TreeRule::oC_PatternPart);
-  switch (ahead(0)) {
-    case 6: case 73: case 74:
-      if (!oC_AnonymousPatternPart()) {
-        return false;
-      }
-      break;
-    case 85: case 91: case 92: case 93: case 100: case 121: case 122: case 123: case 126:
-      if (!oC_Variable()) {
-        return false;
-      }
-      skip(127);
-      if (!take(3)) {
-        return false;
-      }
-      skip(127);
-      if (!oC_AnonymousPatternPart()) {
-        return false;
-      }
-      break;
-    default:
+  if (set2.holds(ahead(0))) {
+    if (!oC_Variable()) {
       return false;
+    }
+    skip(127);
+    if (!take(3)) {
+      return false;
+    }
+    skip(127);
+  }
+  if (!oC_AnonymousPatternPart()) {
+    return false;
   }
   close(node);
   return true;
@@ -1326,32 +1295,32 @@ bool Rules::oC_RelationshipTypes() {
     return false;
   }
   skip(127);
-  if (!oC_RelTypeName()) {
-    return false;
-  }
-  while (ahead(0) == 11 || (ahead(0) == 127 && ahead(1) == 11)) {
+  while (true) {
+    if (!oC_RelTypeName()) {
+      return false;
+    }
+    if (!(ahead(0) == 11 || (ahead(0) == 127 && ahead(1) == 11))) {
+      break;
+    }
     skip(127);
     if (!take(11)) {
       return false;
     }
     skip(10);
     skip(127);
-    if (!oC_RelTypeName()) {
-      return false;
-    }
   }
   return true;
 }
 
 bool Rules::oC_NodeLabels() {
-  if (!oC_NodeLabel()) {
-    return false;
-  }
-  while (ahead(0) == 10 || (ahead(0) == 127 && ahead(1) == 10)) {
-    skip(127);
+  while (true) {
     if (!oC_NodeLabel()) {
       return false;
     }
+    if (!(ahead(0) == 10 || (ahead(0) == 127 && ahead(1) == 10))) {
+      break;
+    }
+    skip(127);
   }
   return true;
 }
@@ -1435,10 +1404,13 @@ bool Rules::oC_Expression() {
 }
 
 bool Rules::oC_OrExpression() {
-  if (!oC_XorExpression()) {
-    return false;
-  }
-  while ((ahead(0) == 127 && ahead(1) == 75)) {
+  while (true) {
+    if (!oC_XorExpression()) {
+      return false;
+    }
+    if (!((ahead(0) == 127 && ahead(1) == 75))) {
+      break;
+    }
     if (!take(127)) {
       return false;
     }
@@ -1448,18 +1420,18 @@ bool Rules::oC_OrExpression() {
     if (!take(127)) {
       return false;
     }
-    if (!oC_XorExpression()) {
-      return false;
-    }
   }
   return true;
 }
 
 bool Rules::oC_XorExpression() {
-  if (!oC_AndExpression()) {
-    return false;
-  }
-  while ((ahead(0) == 127 && ahead(1) == 76)) {
+  while (true) {
+    if (!oC_AndExpression()) {
+      return false;
+    }
+    if (!((ahead(0) == 127 && ahead(1) == 76))) {
+      break;
+    }
     if (!take(127)) {
       return false;
     }
@@ -1469,18 +1441,18 @@ bool Rules::oC_XorExpression() {
     if (!take(127)) {
       return false;
     }
-    if (!oC_AndExpression()) {
-      return false;
-    }
   }
   return true;
 }
 
 bool Rules::oC_AndExpression() {
-  if (!oC_NotExpression()) {
-    return false;
-  }
-  while ((ahead(0) == 127 && ahead(1) == 77)) {
+  while (true) {
+    if (!oC_NotExpression()) {
+      return false;
+    }
+    if (!((ahead(0) == 127 && ahead(1) == 77))) {
+      break;
+    }
     if (!take(127)) {
       return false;
     }
@@ -1488,9 +1460,6 @@ bool Rules::oC_AndExpression() {
       return false;
     }
     if (!take(127)) {
-      return false;
-    }
-    if (!oC_NotExpression()) {
       return false;
     }
   }
@@ -1644,100 +1613,80 @@ bool Rules::oC_NullPredicateExpression() {
   if (!take(127)) {
     return false;
   }
-  switch (ahead(0)) {
-    case 78:
-      if (!take(78)) {
-        return false;
-      }
-      if (!take(127)) {
-        return false;
-      }
-      if (!take(84)) {
-        return false;
-      }
-      break;
-    case 84:
-      if (!take(84)) {
-        return false;
-      }
-      break;
-    default:
+  if (ahead(0) == 78) {
+    if (!take(78)) {
       return false;
+    }
+    if (!take(127)) {
+      return false;
+    }
+  }
+  if (!take(84)) {
+    return false;
   }
   return true;
 }
 
 bool Rules::oC_AddOrSubtractExpression() {
-  if (!oC_MultiplyDivideModuloExpression()) {
-    return false;
-  }
-  while ((ahead(0) == 18 || ahead(0) == 19) || (ahead(0) == 127 && ((ahead(1) == 18 || ahead(1) == 19)))) {
+  while (true) {
+    if (!oC_MultiplyDivideModuloExpression()) {
+      return false;
+    }
+    if (!((ahead(0) == 18 || ahead(0) == 19) || (ahead(0) == 127 && ((ahead(1) == 18 || ahead(1) == 19))))) {
+      break;
+    }
     skip(127);
     if (!takeOneOf(set14)) {
       return false;
     }
     skip(127);
-    if (!oC_MultiplyDivideModuloExpression()) {
-      return false;
-    }
   }
   return true;
 }
 
 bool Rules::oC_MultiplyDivideModuloExpression() {
-  if (!oC_PowerOfExpression()) {
-    return false;
-  }
-  while ((ahead(0) == 5 || ahead(0) == 20 || ahead(0) == 21) || (ahead(0) == 127 && ((ahead(1) == 5 || ahead(1) == 20 || ahead(1) == 21)))) {
+  while (true) {
+    if (!oC_PowerOfExpression()) {
+      return false;
+    }
+    if (!((ahead(0) == 5 || ahead(0) == 20 || ahead(0) == 21) || (ahead(0) == 127 && ((ahead(1) == 5 || ahead(1) == 20 || ahead(1) == 21))))) {
+      break;
+    }
     skip(127);
     if (!takeOneOf(set15)) {
       return false;
     }
     skip(127);
-    if (!oC_PowerOfExpression()) {
-      return false;
-    }
   }
   return true;
 }
 
 bool Rules::oC_PowerOfExpression() {
-  if (!oC_UnaryAddOrSubtractExpression()) {
-    return false;
-  }
-  while (ahead(0) == 22 || (ahead(0) == 127 && ahead(1) == 22)) {
+  while (true) {
+    if (!oC_UnaryAddOrSubtractExpression()) {
+      return false;
+    }
+    if (!(ahead(0) == 22 || (ahead(0) == 127 && ahead(1) == 22))) {
+      break;
+    }
     skip(127);
     if (!take(22)) {
       return false;
     }
     skip(127);
-    if (!oC_UnaryAddOrSubtractExpression()) {
-      return false;
-    }
   }
   return true;
 }
 
 bool Rules::oC_UnaryAddOrSubtractExpression() {
-  switch (ahead(0)) {
-    case 6: case 8: case 24: case 26: case 47: case 84: case 85: case 86: case 91: case 92: case 93:
-    case 94: case 95: case 96: case 97: case 98: case 99: case 100: case 107: case 108: case 109:
-    case 121: case 122: case 123: case 126:
-      if (!oC_ListOperatorExpression()) {
-        return false;
-      }
-      break;
-    case 18: case 19:
-      if (!takeOneOf(set14)) {
-        return false;
-      }
-      skip(127);
-      if (!oC_ListOperatorExpression()) {
-        return false;
-      }
-      break;
-    default:
+  if ((ahead(0) == 18 || ahead(0) == 19)) {
+    if (!takeOneOf(set14)) {
       return false;
+    }
+    skip(127);
+  }
+  if (!oC_ListOperatorExpression()) {
+    return false;
   }
   return true;
 }
@@ -1758,27 +1707,18 @@ bool Rules::oC_ListOperatorExpression() {
         if (!oC_Expression()) {
           return false;
         }
-        switch (ahead(0)) {
-          case 9:
-            if (!take(9)) {
-              return false;
-            }
-            break;
-          case 12:
-            if (!take(12)) {
-              return false;
-            }
-            if (set16.holds(ahead(0))) {
-              if (!oC_Expression()) {
-                return false;
-              }
-            }
-            if (!take(9)) {
-              return false;
-            }
-            break;
-          default:
+        if (ahead(0) == 12) {
+          if (!take(12)) {
             return false;
+          }
+          if (set16.holds(ahead(0))) {
+            if (!oC_Expression()) {
+              return false;
+            }
+          }
+        }
+        if (!take(9)) {
+          return false;
         }
         break;
       case 12:
@@ -2228,53 +2168,18 @@ bool Rules::oC_CaseExpression() {
   if (!take(86)) {
     return false;
   }
-  unsigned chosen = 0;
-  switch (ahead(0)) {
-    case 6: case 8: case 18: case 19: case 24: case 26: case 47: case 78: case 84: case 85: case 86:
-    case 91: case 92: case 93: case 94: case 95: case 96: case 97: case 98: case 99: case 100:
-    case 107: case 108: case 109: case 121: case 122: case 123: case 126:
-      chosen = 2;
-      break;
-    case 89:
-      chosen = 1;
-      break;
-    case 127:
-      switch (ahead(1)) {
-        case 6: case 8: case 18: case 19: case 24: case 26: case 47: case 78: case 84: case 85:
-        case 86: case 91: case 92: case 93: case 94: case 95: case 96: case 97: case 98: case 99:
-        case 100: case 107: case 108: case 109: case 121: case 122: case 123: case 126:
-          chosen = 2;
-          break;
-        case 89:
-          chosen = 1;
-          break;
-      }
-      break;
-  }
-  switch (chosen) {
-    case 1:
-      do {
-        skip(127);
-        if (!oC_CaseAlternative()) {
-          return false;
-        }
-      } while (ahead(0) == 89 || (ahead(0) == 127 && ahead(1) == 89));
-      break;
-    case 2:
-      skip(127);
-      if (!oC_Expression()) {
-        return false;
-      }
-      do {
-        skip(127);
-        if (!oC_CaseAlternative()) {
-          return false;
-        }
-      } while (ahead(0) == 89 || (ahead(0) == 127 && ahead(1) == 89));
-      break;
-    default:
+  if (set16.holds(ahead(0)) || (ahead(0) == 127 && set16.holds(ahead(1)))) {
+    skip(127);
+    if (!oC_Expression()) {
       return false;
+    }
   }
+  do {
+    skip(127);
+    if (!oC_CaseAlternative()) {
+      return false;
+    }
+  } while (ahead(0) == 89 || (ahead(0) == 127 && ahead(1) == 89));
   if (ahead(0) == 87 || (ahead(0) == 127 && ahead(1) == 87)) {
     skip(127);
     if (!take(87)) {
@@ -2888,6 +2793,8 @@ bool Rules::oC_Atom_4() {
 
 Verdict parseQuery(SyntaxTree& tree) { return Rules(tree).parse(&Rules::oC_Cypher); }
 
-Verdict parseExpression(SyntaxTree& tree) { return Rules(tree).parse(&Rules::oC_Expression); }
+Verdict parseExpression(SyntaxTree& tree) {
+  return Rules(tree).parse(&Rules::oC_Expression, 127);
+}
 
 }  // namespace vorn
