@@ -106,7 +106,7 @@ TEST(ManyPieces, ThatMayBelongToOneTokenEnd) {
 TEST(ManyPieces, ThatMayBelongToOneTokenAreDividedAsByTheBareLexer) {
   BareLexer bare;
   for (const auto& [piece, end] : piecesAndEnds()) {
-    for (const std::size_t count : {1, 2, 63, 64, 65, 130, 300}) {
+    for (const std::size_t count : {1U, 2U, 63U, 64U, 65U, 130U, 300U}) {
       expectTokensOfTheBareLexer(bare, repeated(piece, count) + end);
       expectTokensOfTheBareLexer(bare, repeated(piece, count) + end + " '" + end);
     }
