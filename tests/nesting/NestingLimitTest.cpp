@@ -75,8 +75,8 @@ TEST(NestingLimit, RefusesATextWithoutLevelsWhereThereIsNoRoom) {
   onStackOf(256 * kibibyte, [] {
     // The C library may hand out a larger stack than was asked for.
     const std::size_t size = vorn::stackPosition() - vorn::stackEnd(vorn::stackPosition());
-    below(size - 44 * kibibyte, [] { EXPECT_FALSE(refuses("a")); });
-    below(size - 39 * kibibyte, [] { EXPECT_TRUE(refuses("a")); });
+    below(size - 36 * kibibyte, [] { EXPECT_FALSE(refuses("a")); });
+    below(size - 31 * kibibyte, [] { EXPECT_TRUE(refuses("a")); });
   });
 }
 
