@@ -269,10 +269,14 @@ class RuleFunctions:
             visit(name, ())
 
     def _called(self, name: str) -> list:
-        """The rules that a rule calls. A call of itself at its very end becomes a loop."""
-        called = names_in(self._rules[name])
-        loops = name not in names_in_front(self._rules[name])
-        return [one for one in called if not (loops and one == name)]
+        """The rules that a rule calls."""
+        loops = self._loops(name)
+        return [one for one in names_in(self._rules[name]) if not (loops and one == name)]
+
+    def _loops(self, name: str) -> bool:
+        """Whether a rule calls itself, and only at its very end: the call becomes a loop."""
+        body = self._rules[name]
+        return name in names_in(body) and name not in names_in_front(body)
 
     def source(self) -> str:
         bodies = [self._function(name) for name in self._rules]
@@ -311,7 +315,7 @@ Verdict parseExpression(SyntaxTree& tree) {{
     def _function(self, name: str) -> str:
         self._rule, self._ordinal = name, 0
         body = self._rules[name]
-        loops = name in names_in(body) and name not in names_in_front(body)
+        loops = self._loops(name)
         code = self._code(body, "    " if loops else "  ", loops)
         if name in STACK_CHECKS:
             code = "  if (isStackUsedUp()) {\n    return false;\n  }\n" + code
@@ -406,12 +410,11 @@ Verdict parseExpression(SyntaxTree& tree) {{
             functions = []
             codes = [self._code(part, indent + "    ", is_last) for part in parts]
         default = "break" if expression[0] == "optional" else "return false"
-        return self._switch(self._choices[place], 0, Alternatives(codes, functions, default), indent)
+        return self._switch(self._choices[place], Alternatives(codes, functions, default), indent)
 
-    def _switch(self, choices: list, depth: int, alternatives: "Alternatives", indent: str) -> str:
-        """Where an alternative is chosen in several places its code stands in the last one."""
-        if depth == 0 and not all(isinstance(one.outcome, tuple) and len(one.outcome) == 1 for one in choices):
-            chosen = self._chosen(choices, indent)
+    def _switch(self, choices: list, alternatives: "Alternatives", indent: str) -> str:
+        """Where one token does not tell, the alternative is found first, so that its code stands once."""
+        if not all(isinstance(one.outcome, tuple) and len(one.outcome) == 1 for one in choices):
             lists = sorted({outcome for _, outcome in self._undecided(choices)})
             cases = "".join(
                 f"{indent}  case {code_of(outcome)}: {{\n"
@@ -423,9 +426,8 @@ Verdict parseExpression(SyntaxTree& tree) {{
             )
             numbers = sorted(self._alternatives_in(choices))
             return (
-                chosen
-                + f"{indent}switch (chosen) {{\n"
-                + "".join(alternatives.case(str(one), one, indent) for one in numbers)
+                f"{indent}unsigned chosen = 0;\n{self._find(choices, 0, indent)}{indent}switch (chosen) {{\n"
+                + "".join(alternatives.cases([str(one)], one, indent) for one in numbers)
                 + cases
                 + f"{indent}  default:\n{indent}    {alternatives.default};\n{indent}}}\n"
             )
@@ -442,9 +444,6 @@ Verdict parseExpression(SyntaxTree& tree) {{
             elif len(outcome) == 1:
                 found.add(outcome[0])
         return found
-
-    def _chosen(self, choices: list, indent: str) -> str:
-        return f"{indent}unsigned chosen = 0;\n" + self._find(choices, 0, indent)
 
     def _find(self, choices: list, depth: int, indent: str) -> str:
         code = f"{indent}switch (ahead({depth})) {{\n"
@@ -474,7 +473,7 @@ Verdict parseExpression(SyntaxTree& tree) {{
 
     def _is(self, types: frozenset, depth: int) -> str:
         if len(types) > FEW:
-            return f"{self._set(frozenset(types))}.holds(ahead({depth}))"
+            return f"{self._set(types)}.holds(ahead({depth}))"
         terms = " || ".join(f"ahead({depth}) == {one}" for one in sorted(types))
         return f"({terms})" if len(types) > 1 else terms
 
@@ -498,9 +497,6 @@ class Alternatives:
         code = self._codes[number - 1]
         ending = "" if code.endswith("continue;\n") else f"{indent}    break;\n"
         return f"{labels(tokens, indent)}{code}{ending}"
-
-    def case(self, label: str, number: int, indent: str) -> str:
-        return self.cases([label], number, indent)
 
 
 def separators_of(parts: tuple) -> tuple:
