@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "SymbolicName.h"
+#include "TooDeep.h"
 #include "parser/CompiledParser.h"
 #include "parser/TreeWalk.h"
 #include "platform/StringUtf8ImplDetail.h"
@@ -214,8 +215,8 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
     }
 
     void bind(const SyntaxTree::Node& node, CypherType type) {
-      ++changes;
       if (const auto* const variable = tree.child(node, TreeRule::oC_Variable)) {
+        ++changes;
         variables.bind(names.of(tree.textOf(*variable)), type);
       }
     }

@@ -1,7 +1,5 @@
 #include "InterrogatorBase.h"
 
-#include <stdexcept>
-
 #include "parser/CompiledLexer.h"
 #include "platform/StringUtf8ImplDetail.h"
 
@@ -14,9 +12,5 @@ InterrogatorBase::InterrogatorBase(const WideString& text)
 }
 
 InterrogatorBase::~InterrogatorBase() = default;
-
-void InterrogatorBase::refuseAsTooDeep() {
-  throw std::length_error("the openCypher text nests too deeply for the stack");
-}
 
 }  // namespace vorn

@@ -24,8 +24,6 @@ class InterrogatorBase {
   /// Divides the text into tokens.
   explicit InterrogatorBase(const WideString& text);
 
-  [[noreturn]] static void refuseAsTooDeep();
-
   std::string utf8Text;
 
  private:

@@ -1,5 +1,6 @@
 #include "PropertyFilterExpressionInterrogator.h"
 
+#include "TooDeep.h"
 #include "antlr/Fallback.h"
 #include "parser/CompiledParser.h"
 

@@ -1,10 +1,10 @@
 #include "antlr/NestingLimit.h"
 
 #include <algorithm>
-#include <stdexcept>
 #include <vector>
 
 #include "CypherLexer.h"
+#include "TooDeep.h"
 #include "platform/StackBounds.h"
 
 namespace vorn {
@@ -112,7 +112,7 @@ void refuseTooDeep(const std::uint8_t* tokenTypes, std::size_t count) {
   std::for_each_n(tokenTypes, count, [&](std::size_t type) { levels.read(type); });
   const std::uintptr_t position = stackPosition();
   if (position - stackEnd(position) < reserve + levels.deepest() * bytesOfLevel) {
-    throw std::length_error("the openCypher text nests too deeply for the stack");
+    refuseAsTooDeep();
   }
 }
 
