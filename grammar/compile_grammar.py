@@ -93,6 +93,9 @@ class LexerTables:
     Most states differ from another one, as those within a keyword from that of any other name, in one or
     two transitions. So a state has those alone, and a state that it is like otherwise. The transitions of
     all states lie in one list, each row where it fits between others.
+
+    Half of all tokens are a single ASCII character, such as a blank or a parenthesis. For these it takes
+    a look at the next character only: is it among those that cannot belong to the token?
     """
 
     def __init__(self, automaton: LexerAutomaton) -> None:
@@ -101,6 +104,7 @@ class LexerTables:
         self._likes = self._alike()
         self._pages, self._page_of = self._divide()
         self._pack()
+        self._begin()
 
     def _differences(self, state: int, other: int) -> dict:
         """The transitions that `state` must have by itself if all others are those of `other`."""
@@ -141,6 +145,16 @@ class LexerTables:
         length = max(self._places) + self._automaton.class_count
         self._entries = [taken.get(place, (0, 0)) for place in range(length)]
 
+    def _begin(self) -> None:
+        """By ASCII character: the state behind it, and the ASCII characters that lead nowhere from there."""
+        numbers = {}
+        self._beginnings = []
+        for first in range(128):
+            state = self._rows[1].get(self._pages[0][first], 0)
+            stops = sum(1 << one for one in range(128) if self._pages[0][one] not in self._rows[state])
+            self._beginnings.append((state, numbers.setdefault(stops, len(numbers))))
+        self._stops = list(numbers)
+
     def _divide(self) -> tuple:
         """The classes of 256 code points each, and which of these pages stands where."""
         by_code_point = [number for first, last, number in self._automaton.classes for _ in range(first, last + 1)]
@@ -178,6 +192,16 @@ struct LexerTables {{
 
   static const std::array<State, {len(self._places)}> states;
   static const std::array<Transition, {len(self._entries)}> transitions;
+
+  struct Beginning {{
+    std::uint16_t state;
+    std::uint8_t stops;  // the set of characters that lead nowhere from there
+  }};
+  /// By character of ASCII.
+  static const std::array<Beginning, {len(self._beginnings)}> beginnings;
+  /// Sets of characters of ASCII: bits of bytes, in words.
+  static const std::array<std::array<std::uint64_t, 4>, {len(self._stops)}> stopSets;
+
   /// By code point, divided by 256: the page of its class.
   static const std::array<std::uint8_t, {len(self._page_of)}> pageOf;
   static const std::array<std::array<std::uint8_t, 256>, {len(self._pages)}> pages;
@@ -188,6 +212,10 @@ struct LexerTables {{
 
   static std::uint8_t typeOf(std::uint16_t state) {{ return states[state].type; }}
   static std::uint8_t typeAtEnd(std::uint16_t state) {{ return states[state].typeAtEnd; }}
+
+  static bool stops(const Beginning& beginning, unsigned char byte) {{
+    return (stopSets[beginning.stops][byte / 64U] >> (byte % 64U) & 1U) != 0;
+  }}
 
   static std::uint16_t next(std::uint16_t state, std::uint8_t characterClass) {{
     const Transition& own = transitions[states[state].place + std::size_t{{characterClass}}];
@@ -210,10 +238,14 @@ struct LexerTables {{
             for place, like, accepted, at_end in zip(self._places, self._likes, automaton.accepts, automaton.accepts_at_end)
         ]
         transitions = [f"{{{state}, {target}}}" for state, target in self._entries]
+        beginnings = [f"{{{state}, {stops}}}" for state, stops in self._beginnings]
+        stop_sets = [f"{{{one & (1 << 64) - 1:#x}, {one >> 64:#x}, 0, 0}}" for one in self._stops]
         pages = "\n".join("    {{\n" + filled([str(one) for one in page], "        ") + "\n    }}," for page in self._pages)
         parts = [
             nested_array(f"const std::array<LexerTables::State, {len(states)}> LexerTables::states", states),
             nested_array(f"const std::array<LexerTables::Transition, {len(transitions)}> LexerTables::transitions", transitions),
+            nested_array(f"const std::array<LexerTables::Beginning, {len(beginnings)}> LexerTables::beginnings", beginnings),
+            nested_array(f"const std::array<std::array<std::uint64_t, 4>, {len(stop_sets)}> LexerTables::stopSets", stop_sets),
             array(f"const std::array<std::uint8_t, {len(self._page_of)}> LexerTables::pageOf", self._page_of),
             f"const std::array<std::array<std::uint8_t, 256>, {len(self._pages)}> LexerTables::pages = {{{{\n{pages}\n}}}};\n",
         ]

@@ -41,7 +41,8 @@ class Lexer {
     makeRoom(std::min(size / 2, mostAtOnce));
     std::size_t count = 0;
     while (at != end_) {
-      const Token token = tokenAt(at);
+      const std::uint8_t single = singleCharacterAt(at);
+      const Token token = single == 0 ? tokenAt(at) : Token{single, at + 1};
       if (token.type == 0) {
         break;
       }
@@ -98,6 +99,15 @@ class Lexer {
       codePoint = codePoint << 6U | (*at++ & 0x3FU);
     }
     return {LexerTables::classOf(codePoint), at};
+  }
+
+  // The type of a token of one ASCII character, if a look at the next one tells that it is one.
+  [[nodiscard]] std::uint8_t singleCharacterAt(const unsigned char* at) const {
+    if (*at >= LexerTables::beginnings.size() || at + 1 == end_) {
+      return 0;
+    }
+    const LexerTables::Beginning& beginning = LexerTables::beginnings[*at];
+    return LexerTables::stops(beginning, at[1]) ? LexerTables::typeOf(beginning.state) : 0;
   }
 
   Token tokenAt(const unsigned char* const start) {

@@ -25,6 +25,16 @@ struct LexerTables {
 
   static const std::array<State, 338> states;
   static const std::array<Transition, 1422> transitions;
+
+  struct Beginning {
+    std::uint16_t state;
+    std::uint8_t stops;  // the set of characters that lead nowhere from there
+  };
+  /// By character of ASCII.
+  static const std::array<Beginning, 128> beginnings;
+  /// Sets of characters of ASCII: bits of bytes, in words.
+  static const std::array<std::array<std::uint64_t, 4>, 11> stopSets;
+
   /// By code point, divided by 256: the page of its class.
   static const std::array<std::uint8_t, 4352> pageOf;
   static const std::array<std::array<std::uint8_t, 256>, 128> pages;
@@ -35,6 +45,10 @@ struct LexerTables {
 
   static std::uint8_t typeOf(std::uint16_t state) { return states[state].type; }
   static std::uint8_t typeAtEnd(std::uint16_t state) { return states[state].typeAtEnd; }
+
+  static bool stops(const Beginning& beginning, unsigned char byte) {
+    return (stopSets[beginning.stops][byte / 64U] >> (byte % 64U) & 1U) != 0;
+  }
 
   static std::uint16_t next(std::uint16_t state, std::uint8_t characterClass) {
     const Transition& own = transitions[states[state].place + std::size_t{characterClass}];
