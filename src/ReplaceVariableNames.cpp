@@ -26,12 +26,14 @@ WideString PropertyFilterExpressionInterrogator::replaceVariableNames(
 
     void visitTerminal(std::size_t token) {
       const std::string_view text = tree.textOf(token);
-      if (!insideVariable) {
-        output += text;
-        return;
+      const auto renamed = insideVariable ? renames.find(quoteSymbolicName(text)) : renames.end();
+      if (renamed == renames.end()) {
+        unchanged = {unchanged.empty() ? text.data() : unchanged.data(),
+                     unchanged.size() + text.size()};
+      } else {
+        output.append(unchanged).append(renamed->second);
+        unchanged = {};
       }
-      const auto renamed = renames.find(quoteSymbolicName(text));
-      output += renamed == renames.end() ? text : std::string_view(renamed->second);
     }
 
     void enterOC_Variable(const SyntaxTree::Node& /*node*/) { insideVariable = true; }
@@ -40,6 +42,7 @@ WideString PropertyFilterExpressionInterrogator::replaceVariableNames(
 
     const SyntaxTree& tree;
     std::string output;                                    // UTF-8
+    std::string_view unchanged;                            // behind what is in the output already
     std::unordered_map<std::string, std::string> renames;  // UTF-8, back-quoted on both sides
     bool insideVariable = false;
   };
@@ -52,7 +55,7 @@ WideString PropertyFilterExpressionInterrogator::replaceVariableNames(
     listener.renames.insert_or_assign(quotedUtf8(oldName), std::move(replacement));
   }
   walk<Terminals::Visited>(tree, listener);
-  return StringUtf8ImplDetail::StringUtf8ToWideCharImpl(listener.output);
+  return StringUtf8ImplDetail::StringUtf8ToWideCharImpl(listener.output.append(listener.unchanged));
 }
 
 }  // namespace vorn
