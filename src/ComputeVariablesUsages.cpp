@@ -86,13 +86,18 @@ std::map<WideString, VariableUsage> PropertyFilterExpressionInterrogator::comput
           access.labels.insert(quotedWide(tree.textOf(child)));
         }
       });
-      const std::string_view name = tree.textOf(*variable);
-      VariableUsage& usage = usages[quotedWide(name)];
-      usage.accesses.insert(std::move(access));
-      usage.writtenForms.insert(wide(name));
+      // Most filters name one variable again and again.
+      if (const std::string_view name = tree.textOf(*variable); name != lastName) {
+        lastName = name;
+        lastUsage = &usages[quotedWide(name)];
+        lastUsage->writtenForms.insert(wide(name));
+      }
+      lastUsage->accesses.insert(std::move(access));
     }
 
     std::map<WideString, VariableUsage> usages;
+    std::string_view lastName;
+    VariableUsage* lastUsage = nullptr;
   };
 
   Listener listener(tree);
