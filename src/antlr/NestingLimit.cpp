@@ -32,86 +32,54 @@ enum Symbol : std::size_t {
   closeBrace = CypherLexer::T__24,
 };
 
-// Counts the levels that are open behind each token. It may count too many, but not too few: behind
-// a bracket that does not match, nobody reads on.
-class Levels {
- public:
-  void read(std::size_t type) {
-    switch (type) {
-      case openParenthesis:
-      case openSquare:
-        open(type, 1);
-        break;
-      case openBrace:
-        // A subquery takes more rules from one bracket to the next.
-        open(type, last_ == CypherLexer::EXISTS ? 2 : 1);
-        break;
-      case CypherLexer::CASE:
-        if (last_ != dot) {
-          open(type, 1);
-        }
-        break;
-      case closeParenthesis:
-      case closeSquare:
-      case closeBrace:
-        while (isCaseOpen()) {
-          close();
-        }
-        close();
-        break;
-      case CypherLexer::END:
-        if (isCaseOpen() && !isNameExpected()) {
-          close();
-        }
-        break;
-      case CypherLexer::SP:
-        return;
-      default:
-        break;
-    }
-    last_ = type;
-  }
+// Reserved words serve as names too. No expression ends in one of these, so behind them END is one.
+bool isBeforeName(std::size_t type) {
+  return type == dot || type == colon || type == comma || type == bar || type == openBrace;
+}
 
-  [[nodiscard]] std::size_t deepest() const { return deepest_; }
-
- private:
-  struct Opening {
-    std::size_t type;
-    std::size_t levels;  // with all those around
+// The levels that are open at the deepest place. It may count too many, but not too few: behind a
+// bracket that does not match, nobody reads on.
+std::size_t deepestLevel(const std::uint8_t* tokenTypes, std::size_t count) {
+  struct Bracket {
+    std::size_t around;  // levels
+    std::size_t cases;   // that are open inside
   };
-
-  [[nodiscard]] bool isCaseOpen() const {
-    return !openings_.empty() && openings_.back().type == CypherLexer::CASE;
-  }
-
-  // Reserved words serve as names too. No expression ends in one of these.
-  [[nodiscard]] bool isNameExpected() const {
-    return last_ == dot || last_ == colon || last_ == comma || last_ == bar || last_ == openBrace;
-  }
-
-  void open(std::size_t type, std::size_t levels) {
-    openings_.push_back({type, levels + (openings_.empty() ? 0 : openings_.back().levels)});
-    deepest_ = std::max(deepest_, openings_.back().levels);
-  }
-
-  void close() {
-    if (!openings_.empty()) {
-      openings_.pop_back();
+  std::vector<Bracket> brackets{{0, 0}};
+  std::size_t open = 0;
+  std::size_t deepest = 0;
+  std::size_t last = CypherLexer::SP;
+  std::for_each_n(tokenTypes, count, [&](std::size_t type) {
+    if (type == CypherLexer::SP) {
+      return;
     }
-  }
-
-  std::vector<Opening> openings_;
-  std::size_t last_ = 0;
-  std::size_t deepest_ = 0;
-};
+    if (type == openParenthesis || type == openSquare || type == openBrace) {
+      brackets.push_back({open, 0});
+      // A subquery takes more rules from one bracket to the next.
+      open += last == CypherLexer::EXISTS ? 2 : 1;
+    } else if (type == closeParenthesis || type == closeSquare || type == closeBrace) {
+      open = brackets.back().around;
+      brackets.pop_back();
+      if (brackets.empty()) {
+        brackets.push_back({0, 0});
+      }
+    } else if (type == CypherLexer::CASE && last != dot) {
+      ++open;
+      ++brackets.back().cases;
+    } else if (type == CypherLexer::END && brackets.back().cases > 0 && !isBeforeName(last)) {
+      --open;
+      --brackets.back().cases;
+    }
+    deepest = std::max(deepest, open);
+    last = type;
+  });
+  return deepest;
+}
 
 }  // namespace
 
 void refuseTooDeep(const std::uint8_t* tokenTypes, std::size_t count) {
-  Levels levels;
-  std::for_each_n(tokenTypes, count, [&](std::size_t type) { levels.read(type); });
   const std::uintptr_t position = stackPosition();
-  if (position - stackEnd(position) < reserve + levels.deepest() * bytesOfLevel) {
+  if (position - stackEnd(position) < reserve + deepestLevel(tokenTypes, count) * bytesOfLevel) {
     refuseAsTooDeep();
   }
 }

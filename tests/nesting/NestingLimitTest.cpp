@@ -120,8 +120,9 @@ TEST(NestingLimit, CountsASubqueryTwice) {
 }
 
 TEST(NestingLimit, CountsNoLevelThatIsClosed) {
-  for (const char* text : {"(a) + ", "[a] + ", "{a: 1} + ", "f(a) + ", "CASE WHEN a THEN b END + ",
-                           "EXISTS { (a) } + ", "CASE (a) WHEN {b: [c]} THEN d END + "}) {
+  for (const char* text :
+       {"(a) + ", "[a] + ", "{a: 1} + ", "f(a) + ", "CASE WHEN a THEN b END + ",
+        "EXISTS { (a) } + ", "CASE (a) WHEN {b: [c]} THEN d END + ", "CASE ) END + "}) {
     expectNoLevelToStayOpen(text);
   }
 }
