@@ -10,6 +10,7 @@
 
 #include "SymbolicName.h"
 #include "TooDeep.h"
+#include "antlr/Fallback.h"
 #include "parser/CompiledParser.h"
 #include "parser/TreeWalk.h"
 #include "platform/StringUtf8ImplDetail.h"
@@ -109,16 +110,31 @@ struct Column {
   CypherType type;
 };
 
+bool isAccepted(SyntaxTree& query) {
+  const Verdict verdict = parseQuery(query);
+  if (verdict == Verdict::TooDeep) {
+    refuseAsTooDeep();
+  }
+  return verdict == Verdict::Accepted;
+}
+
+[[noreturn]] void refuse() {
+  throw antlr4::ParseCancellationException("the text is no openCypher query");
+}
+
 }  // namespace
 
 CypherInterrogator::CypherInterrogator(const WideString& query) : InterrogatorBase(query) {
-  switch (parseQuery(tree)) {
-    case Verdict::Accepted:
-      return;
-    case Verdict::Refused:
-      throw antlr4::ParseCancellationException("the text is no openCypher query");
-    case Verdict::TooDeep:
-      refuseAsTooDeep();
+  if (!isAccepted(tree)) {
+    refuse();
+  }
+}
+
+CypherInterrogator::CypherInterrogator(std::string_view query, antlr4::ANTLRErrorListener& errors)
+    : InterrogatorBase(query) {
+  if (!isAccepted(tree)) {
+    findErrorInQueryByAntlr(tree, errors);
+    refuse();
   }
 }
 

@@ -1,9 +1,14 @@
 #pragma once
 
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "InterrogatorBase.h"
+
+namespace antlr4 {
+class ANTLRErrorListener;
+}  // namespace antlr4
 
 namespace vorn {
 
@@ -13,6 +18,10 @@ class CypherInterrogator : private InterrogatorBase {
   /// Throws antlr4::ParseCancellationException, which says nothing of the place, if `query` is no
   /// openCypher query, and std::length_error if it nests too deeply for the stack.
   explicit CypherInterrogator(const WideString& query);
+
+  /// The same for a query in well-formed UTF-8, which must outlive the interrogator. The listener,
+  /// which must throw, is told of the error if there is one and it can be found.
+  CypherInterrogator(std::string_view query, antlr4::ANTLRErrorListener& errors);
 
   /// The columns of the query, computed by the first call and kept.
   std::vector<std::pair<WideString, CypherType>>& getResultColumnNamesAndTypes();

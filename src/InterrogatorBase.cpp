@@ -5,11 +5,18 @@
 
 namespace vorn {
 
-// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the first memory is raw.
+// NOLINTBEGIN(cppcoreguidelines-pro-type-member-init): the first memory is raw.
+
 InterrogatorBase::InterrogatorBase(const WideString& text)
     : utf8Text(StringUtf8ImplDetail::StringWideCharToUtf8Impl(text)), tree(utf8Text, &treeMemory) {
   tokenise(tree);
 }
+
+InterrogatorBase::InterrogatorBase(std::string_view utf8) : tree(utf8, &treeMemory) {
+  tokenise(tree);
+}
+
+// NOLINTEND(cppcoreguidelines-pro-type-member-init)
 
 InterrogatorBase::~InterrogatorBase() = default;
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <memory_resource>
 #include <string>
+#include <string_view>
 
 #include "parser/SyntaxTree.h"
 #include "vorn/vorn.h"
@@ -24,7 +25,10 @@ class InterrogatorBase {
   /// Divides the text into tokens.
   explicit InterrogatorBase(const WideString& text);
 
-  std::string utf8Text;
+  /// The same for a text that is well-formed UTF-8 already. It must outlive the interrogator.
+  explicit InterrogatorBase(std::string_view utf8);
+
+  std::string utf8Text;  // empty if the text was given so
 
  private:
   // Holds the tree of a short text, which then needs no block from the heap.

@@ -19,10 +19,22 @@ std::string quotedUtf8(const WideString& name) {
 
 WideString PropertyFilterExpressionInterrogator::replaceVariableNames(
     const std::unordered_map<WideString, WideString>& renames) const {
+  std::unordered_map<std::string, std::string> quoted;
+  quoted.reserve(renames.size());
+  for (const auto& [oldName, newName] : renames) {
+    std::string replacement = quotedUtf8(newName);
+    quoted.insert_or_assign(quotedUtf8(oldName), std::move(replacement));
+  }
+  return StringUtf8ImplDetail::StringUtf8ToWideCharImpl(replaceQuotedNames(quoted));
+}
+
+std::string PropertyFilterExpressionInterrogator::replaceQuotedNames(
+    const std::unordered_map<std::string, std::string>& renames) const {
   // White space and comments are tokens too, so the tokens in text order are the text. Unlike the
   // search for usages this does not validate: variables inside forbidden elements are renamed too.
   struct Listener : TreeListener {
-    explicit Listener(const SyntaxTree& ofFilter) : tree(ofFilter) {}
+    Listener(const SyntaxTree& ofFilter, const std::unordered_map<std::string, std::string>& given)
+        : tree(ofFilter), renames(given) {}
 
     void visitTerminal(std::size_t token) {
       const std::string_view text = tree.textOf(token);
@@ -41,21 +53,16 @@ WideString PropertyFilterExpressionInterrogator::replaceVariableNames(
     void exitOC_Variable(const SyntaxTree::Node& /*node*/) { insideVariable = false; }
 
     const SyntaxTree& tree;
-    std::string output;                                    // UTF-8
-    std::string_view unchanged;                            // behind what is in the output already
-    std::unordered_map<std::string, std::string> renames;  // UTF-8, back-quoted on both sides
+    const std::unordered_map<std::string, std::string>& renames;
+    std::string output;
+    std::string_view unchanged;  // behind what is in the output already
     bool insideVariable = false;
   };
 
-  Listener listener(tree);
-  listener.output.reserve(2 * utf8Text.size());
-  listener.renames.reserve(renames.size());
-  for (const auto& [oldName, newName] : renames) {
-    std::string replacement = quotedUtf8(newName);
-    listener.renames.insert_or_assign(quotedUtf8(oldName), std::move(replacement));
-  }
+  Listener listener(tree, renames);
+  listener.output.reserve(2 * tree.text.size());
   walk<Terminals::Visited>(tree, listener);
-  return StringUtf8ImplDetail::StringUtf8ToWideCharImpl(listener.output.append(listener.unchanged));
+  return std::move(listener.output.append(listener.unchanged));
 }
 
 }  // namespace vorn

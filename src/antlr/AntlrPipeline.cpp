@@ -12,7 +12,6 @@
 #include "antlr/NeverDestroyed.h"
 #include "antlr/RecogniserTables.h"
 #include "antlr/TableLexerSimulator.h"
-#include "antlr/ThrowingErrorListener.h"
 
 namespace vorn {
 
@@ -56,24 +55,24 @@ class LeakFreeParser final : public CypherParser {
 };
 
 // The runtime installs a listener that prints to the console; nothing may reach it.
-void makeErrorsFatal(antlr4::Recognizer& recognizer) {
+void tellOfErrors(antlr4::Recognizer& recognizer, antlr4::ANTLRErrorListener& listener) {
   recognizer.removeErrorListeners();
-  recognizer.addErrorListener(&ThrowingErrorListener::instance());
+  recognizer.addErrorListener(&listener);
 }
 
 }  // namespace
 
-AntlrPipeline::AntlrPipeline(std::string_view utf8)
+AntlrPipeline::AntlrPipeline(std::string_view utf8, antlr4::ANTLRErrorListener& errors)
     : input_(std::make_unique<antlr4::ANTLRInputStream>(utf8)) {
   buildRecogniserTables();
   lexer_ = std::make_unique<CypherLexer>(input_.get());
-  makeErrorsFatal(*lexer_);
+  tellOfErrors(*lexer_, errors);
   // The runtime's own factory is gone at the end of the process.
   lexer_->setTokenFactory(&neverDestroyed<antlr4::CommonTokenFactory>());
   lexer_->setInterpreter(new TableLexerSimulator(*lexer_));
   tokens_ = std::make_unique<antlr4::CommonTokenStream>(lexer_.get());
   parser_ = std::make_unique<LeakFreeParser>(tokens_.get());
-  makeErrorsFatal(*parser_);
+  tellOfErrors(*parser_, errors);
   parser_->setInterpreter(new CallPredictor(*parser_));
 }
 

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "CypherParser.h"
+#include "antlr/ThrowingErrorListener.h"
 
 namespace antlr4 {
 class ANTLRInputStream;
@@ -17,8 +18,10 @@ class CypherLexer;
 /// The ANTLR runtime's pipeline over one text, in which the first lexical or syntax error is fatal.
 class AntlrPipeline {
  public:
-  /// The text must outlive the pipeline.
-  explicit AntlrPipeline(std::string_view utf8);
+  /// The text and the listener, which must throw at each error, must outlive the pipeline.
+  explicit AntlrPipeline(
+      std::string_view utf8,
+      antlr4::ANTLRErrorListener& errors = ThrowingErrorListener::instance());
 
   AntlrPipeline(const AntlrPipeline&) = delete;
   AntlrPipeline& operator=(const AntlrPipeline&) = delete;
@@ -26,8 +29,7 @@ class AntlrPipeline {
   AntlrPipeline& operator=(AntlrPipeline&&) = delete;
   ~AntlrPipeline();
 
-  /// Each parses from the beginning, and may be called once. Throws
-  /// antlr4::ParseCancellationException at an error. The tree is the pipeline's.
+  /// Each parses from the beginning, and may be called once. The tree is the pipeline's.
   CypherParser::OC_ExpressionContext& parseExpression() { return *parser_->oC_Expression(); }
   CypherParser::OC_CypherContext& parseQuery() { return *parser_->oC_Cypher(); }
 

@@ -1,7 +1,7 @@
 // The fallback is the ANTLR runtime's own pipeline: input stream, lexer, token stream, parser,
-// tree. Only a filter comes here that the compiled parser does not take as a whole. The runtime's
-// prediction decides what is dropped behind a complete expression, and the runtime's words say what
-// is wrong.
+// tree. A filter comes here that the compiled parser does not take as a whole, and a refused query
+// if its error is asked for. The runtime's prediction decides what is dropped behind a complete
+// expression, and the runtime's words say what is wrong.
 //
 // Four things differ from the runtime as it is, none of which changes an answer:
 //
@@ -20,6 +20,8 @@
 
 #include "antlr/Fallback.h"
 
+#include <stdexcept>
+
 #include "antlr/AntlrPipeline.h"
 #include "antlr/NestingLimit.h"
 #include "antlr/TreeConverter.h"
@@ -27,10 +29,18 @@
 
 namespace vorn {
 
-void parseExpressionByAntlr(SyntaxTree& tree) {
+void parseExpressionByAntlr(SyntaxTree& tree, antlr4::ANTLRErrorListener& errors) {
   refuseTooDeep(tree.types.data(), tree.tokenCount());
-  AntlrPipeline pipeline(tree.text);
+  AntlrPipeline pipeline(tree.text, errors);
   convertNodes(pipeline.parseExpression(), tree);
+}
+
+void findErrorInQueryByAntlr(const SyntaxTree& tree, antlr4::ANTLRErrorListener& errors) {
+  try {
+    refuseTooDeep(tree.types.data(), tree.tokenCount());
+    AntlrPipeline(tree.text, errors).parseQuery();
+  } catch (const std::length_error&) {  // NOLINT(bugprone-empty-catch): the contract
+  }
 }
 
 }  // namespace vorn

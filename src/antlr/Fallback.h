@@ -1,13 +1,21 @@
 #pragma once
 
+namespace antlr4 {
+class ANTLRErrorListener;
+}  // namespace antlr4
+
 namespace vorn {
 
 struct SyntaxTree;
 
 /// Parses the tree's text as an expression by the ANTLR pipeline, which drops what stands behind a
 /// complete one. For a text that the compiled parser does not take as a whole.
-/// Throws antlr4::ParseCancellationException at the first lexical or syntax error, and
+/// The listener, which must throw, is told of the first lexical or syntax error. Throws
 /// std::length_error if the text nests too deeply for the stack or takes too long.
-void parseExpressionByAntlr(SyntaxTree& tree);
+void parseExpressionByAntlr(SyntaxTree& tree, antlr4::ANTLRErrorListener& errors);
+
+/// Tells the listener, which must throw, of the first error in a query that the compiled parser
+/// refuses. Returns if the text nests too deeply or takes too long for the error to be found.
+void findErrorInQueryByAntlr(const SyntaxTree& tree, antlr4::ANTLRErrorListener& errors);
 
 }  // namespace vorn

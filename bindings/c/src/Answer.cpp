@@ -1,0 +1,85 @@
+#include "Answer.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdio>
+#include <cstdlib>
+#include <mutex>
+#include <utility>
+
+#include "antlr/NeverDestroyed.h"
+
+namespace vorn {
+
+namespace {
+
+template <typename Unit, std::size_t size>
+constexpr std::array<Unit, size> unitsOf(const char (&ascii)[size]) {
+  std::array<Unit, size> units{};
+  for (std::size_t i = 0; i != size; ++i) {
+    units[i] = static_cast<Unit>(ascii[i]);
+  }
+  return units;
+}
+
+template <typename Unit>
+constexpr auto memoryRanOut = unitsOf<Unit>("memory ran out");
+
+template <typename Unit>
+struct OutOfMemory : vorn_answer {
+  OutOfMemory() {
+    error.kind = VORN_OUT_OF_MEMORY;
+    error.message = Units<Unit>{memoryRanOut<Unit>.data(), memoryRanOut<Unit>.size() - 1};
+    error.element = nothing<Unit>;
+  }
+};
+
+#if defined(NDEBUG)
+
+void dispose(vorn_answer* answer) { delete answer; }
+
+#else
+
+// The memory of the last released answers is kept, so that it is not yet another answer's when one of
+// them is released again.
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): in debug builds only.
+std::mutex disposing;
+std::array<vorn_answer*, 1024> disposed{};
+std::size_t disposals = 0;
+// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
+
+void dispose(vorn_answer* answer) {
+  const std::lock_guard<std::mutex> lock(disposing);
+  if (answer->isReleased) {
+    std::fputs("vorn_release: the answer has been released before\n", stderr);
+    std::abort();
+  }
+  answer->isReleased = true;
+  answer->columns = {};
+  answer->variables = {};
+  answer->memory.release();
+  delete std::exchange(disposed.at(disposals++ % disposed.size()), answer);
+}
+
+#endif
+
+}  // namespace
+
+template <typename Unit>
+vorn_answer& outOfMemory() {
+  return neverDestroyed<OutOfMemory<Unit>>();
+}
+
+template vorn_answer& outOfMemory<char>();
+template vorn_answer& outOfMemory<std::uint16_t>();
+
+}  // namespace vorn
+
+// Those that say that memory ran out belong to nobody.
+void vorn_release(vorn_answer* answer) {
+  if (answer != nullptr && answer->error.kind != VORN_OUT_OF_MEMORY) {
+    vorn::dispose(answer);
+  }
+}
+
+const char* vorn_version() { return VORN_VERSION_TEXT; }
