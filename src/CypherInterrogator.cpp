@@ -51,13 +51,16 @@ class Names {
 // copied at a star: most are not asked for it, and a text may hold many of both.
 class Scope {
  public:
-  void bind(std::string_view name, CypherType type) {
+  /// Whether that changes what was bound before.
+  bool bind(std::string_view name, CypherType type) {
     const auto [entry, isNew] = types_.try_emplace(name, type);
+    const bool isChange = isNew || entry->second != type;
     if (isStarred_) {
       beforeStar_.try_emplace(name, isNew ? unbound : entry->second);
     }
     entry->second = type;
     longestName_ = std::max(longestName_, name.size());
+    return isChange;
   }
 
   /// The type of a variable that is written so; Unknown if there is none.
@@ -232,8 +235,7 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
 
     void bind(const SyntaxTree::Node& node, CypherType type) {
       if (const auto* const variable = tree.child(node, TreeRule::oC_Variable)) {
-        ++changes;
-        variables.bind(names.of(tree.textOf(*variable)), type);
+        changes += variables.bind(names.of(tree.textOf(*variable)), type) ? 1 : 0;
       }
     }
 
