@@ -16,11 +16,25 @@ namespace {
 
 using vorn::WideString;
 
-// makecontext passes its function numbers only.
-WideString contextText;              // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
-Answer contextAnswer{Answer::None};  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+Answer answerBelow(std::size_t usedBytes, const WideString& text) {
+  if (usedBytes == 0) {
+    return answerFor(text);
+  }
+  auto* used = static_cast<char*>(alloca(usedBytes));
+  std::memset(used, 1, usedBytes);
+  const Answer answer = answerFor(text);
+  return *used == 1 ? answer : Answer::Wrong;
+}
 
-Answer answerOnContextStack(std::size_t bytes, const WideString& text) {
+// makecontext passes its function numbers only.
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables)
+WideString contextText;
+std::size_t contextUse = 0;
+Answer contextAnswer{Answer::None};
+// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
+
+// The call is made with so many bytes of the stack in use.
+Answer answerOnContextStack(std::size_t bytes, const WideString& text, std::size_t usedBytes = 0) {
   std::vector<char> stack(bytes);
   ucontext_t here{};
   ucontext_t there{};
@@ -29,10 +43,11 @@ Answer answerOnContextStack(std::size_t bytes, const WideString& text) {
   there.uc_stack.ss_size = stack.size();
   there.uc_link = &here;
   contextText = text;
+  contextUse = usedBytes;
   contextAnswer = Answer::None;
   // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the number of arguments, none, is its last.
   makecontext(
-      &there, [] { contextAnswer = answerFor(contextText); }, 0);
+      &there, [] { contextAnswer = answerBelow(contextUse, contextText); }, 0);
   swapcontext(&here, &there);
   return contextAnswer;
 }
@@ -44,6 +59,16 @@ TEST(StackOfACoroutine, AnswersATextThatNestsALittle) {
 TEST(StackOfACoroutine, RefusesATextThatNestsDeeply) {
   for (const Shape& shape : allShapes()) {
     EXPECT_EQ(answerOnContextStack(128 * kibibyte, shape.nested(20000)), Answer::TooDeep) << shape;
+  }
+}
+
+TEST(StackOfACoroutine, IsNotOverrunWhereTheHostHasUsedAQuarterOfTheLeastSize) {
+  for (const Shape& shape : allShapes()) {
+    for (const std::size_t levels : {20U, 200U, 20000U}) {
+      const Answer answer =
+          answerOnContextStack(64 * kibibyte, shape.nested(levels), 16 * kibibyte);
+      EXPECT_TRUE(answer == Answer::Right || answer == Answer::TooDeep) << shape << levels;
+    }
   }
 }
 
@@ -93,16 +118,6 @@ TEST(StackOfASignalHandler, IsNotOverrunWithinTheThreadsOwn) {
     constexpr std::size_t bytes = 128 * kibibyte;
     EXPECT_EQ(answerOnSignalStack(alloca(bytes), bytes, parentheses(1000)), Answer::TooDeep);
   });
-}
-
-Answer answerBelow(std::size_t usedBytes, const WideString& text) {
-  if (usedBytes == 0) {
-    return answerFor(text);
-  }
-  auto* used = static_cast<char*>(alloca(usedBytes));
-  std::memset(used, 1, usedBytes);
-  const Answer answer = answerFor(text);
-  return *used == 1 ? answer : Answer::Wrong;
 }
 
 // The answers of a text with less and less of the stack left, in kibibytes.
