@@ -4,7 +4,7 @@
 
 BUILD := build/release
 WINDOWS_BUILD := build/windows
-OWN_CODE = $(shell git ls-files --cached --others --exclude-standard '*.h' '*.cpp' ':!grammar/generated')
+OWN_CODE = $(shell git ls-files --cached --others --exclude-standard '*.h' '*.c' '*.cpp' ':!grammar/generated')
 
 SECONDS := 60
 BENCH := build/bench

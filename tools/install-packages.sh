@@ -14,7 +14,7 @@ fail() {
 case "${1-}" in
     build) packages="g++ cmake ninja-build python3 patch xz-utils libutfcpp-dev
                      libcli11-dev nlohmann-json3-dev libutf8proc-dev
-                     libgtest-dev librapidcheck-dev locales pkg-config" ;;
+                     libgtest-dev librapidcheck-dev locales pkg-config clang-14" ;;
     grammar) packages="python3 unicode-data maven default-jre-headless" ;;
     docs) packages="python3 python3-railroad-diagrams doxygen" ;;
     bench) packages="libbenchmark-dev valgrind python3" ;;
@@ -25,7 +25,7 @@ case "${1-}" in
     coverage) packages="gcovr" ;;
     lint) packages="clang-format clang-tidy" ;;
     windows) packages="g++-mingw-w64-x86-64-posix wine64 cmake ninja-build python3 xz-utils
-                       googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev" ;;
+                       googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev clang-14 lld llvm" ;;
     fuzz) packages="clang-14 libclang-rt-14-dev" ;;
     *) fail "say for which task: one of those in this script." ;;
 esac

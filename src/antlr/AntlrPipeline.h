@@ -19,9 +19,8 @@ class CypherLexer;
 class AntlrPipeline {
  public:
   /// The text and the listener, which must throw at each error, must outlive the pipeline.
-  explicit AntlrPipeline(
-      std::string_view utf8,
-      antlr4::ANTLRErrorListener& errors = ThrowingErrorListener::instance());
+  explicit AntlrPipeline(std::string_view utf8,
+                         antlr4::ANTLRErrorListener& errors = ThrowingErrorListener::instance());
 
   AntlrPipeline(const AntlrPipeline&) = delete;
   AntlrPipeline& operator=(const AntlrPipeline&) = delete;

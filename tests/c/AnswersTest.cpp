@@ -27,7 +27,10 @@ TEST_P(CInterface, NamesColumnsAndTheirTypesInTheirOrder) {
   const Told told = columns("MATCH p = (n)-[`größe 😀`]-() RETURN p, n, `größe 😀`, n.a + 1");
   EXPECT_EQ(told.error, VORN_NO_ERROR);
   const std::vector<std::pair<std::string, std::int32_t>> expected = {
-      {"p", VORN_PATH}, {"n", VORN_NODE}, {"größe 😀", VORN_RELATIONSHIP}, {"n.a + 1", VORN_UNKNOWN}};
+      {"p", VORN_PATH},
+      {"n", VORN_NODE},
+      {"größe 😀", VORN_RELATIONSHIP},
+      {"n.a + 1", VORN_UNKNOWN}};
   EXPECT_EQ(told.columns, expected);
 }
 
@@ -43,7 +46,8 @@ TEST_P(CInterface, AnswersAQueryThatReturnsNothing) {
 }
 
 TEST_P(CInterface, TellsWhatAFilterReadsOfWhichVariable) {
-  const Told told = usages("n.address.city = 'x' AND `n`:Person:Adult AND m['😀'] = `n` AND `é`.`ü`");
+  const Told told =
+      usages("n.address.city = 'x' AND `n`:Person:Adult AND m['😀'] = `n` AND `é`.`ü`");
   EXPECT_EQ(lineOf(told),
             "0 at 0:0  , `m` written m reads, `n` written `n` n reads reads :`Adult` :`Person` "
             "reads .`address` .`city`, `é` written `é` reads .`ü`");
@@ -62,9 +66,7 @@ TEST_P(CInterface, RenamesVariables) {
             "`größe`.n = $n AND 'n' /* n */ = `😀```");
 }
 
-TEST_P(CInterface, RenamesNothingWithoutNames) {
-  EXPECT_EQ(renaming("n.a", {}).renamed, "n.a");
-}
+TEST_P(CInterface, RenamesNothingWithoutNames) { EXPECT_EQ(renaming("n.a", {}).renamed, "n.a"); }
 
 TEST_P(CInterface, TakesTheLaterOfTwoNewNamesForOneVariable) {
   EXPECT_EQ(renaming("n", {{"n", "a"}, {"`n`", "b"}}).renamed, "`b`");
@@ -77,8 +79,7 @@ TEST_P(CInterface, UsesANewNameInBackQuotesAsItIs) {
 }
 
 TEST_P(CInterface, RenamesInsideElementsThatAFilterMustNotHold) {
-  EXPECT_EQ(renaming("any(x IN n.l WHERE x)", {{"x", "y"}}).renamed,
-            "any(`y` IN n.l WHERE `y`)");
+  EXPECT_EQ(renaming("any(x IN n.l WHERE x)", {{"x", "y"}}).renamed, "any(`y` IN n.l WHERE `y`)");
 }
 
 TEST_P(CInterface, TellsHowFarTheExpressionReaches) {

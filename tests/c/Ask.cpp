@@ -121,8 +121,8 @@ Told toldBy(Kind kind, std::string_view text, const Renames& renames) {
   for (std::size_t i = 0; i != vorn_variable_count(answer); ++i) {
     Variable variable;
     variable.name = string<Functions>(Functions::variableName, answer, i);
-    variable.writtenForms = strings<Functions>(vorn_written_form_count(answer, i),
-                                               Functions::writtenForm, answer, i);
+    variable.writtenForms =
+        strings<Functions>(vorn_written_form_count(answer, i), Functions::writtenForm, answer, i);
     for (std::size_t j = 0; j != vorn_access_count(answer, i); ++j) {
       variable.accesses.push_back(
           {strings<Functions>(vorn_property_count(answer, i, j), Functions::property, answer, i, j),

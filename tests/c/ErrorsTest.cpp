@@ -77,8 +77,7 @@ TEST_P(CErrors, AtTheEndOfTheTextHaveItsLengthForAnOffset) {
 
 TEST_P(CErrors, TellAMessageWhole) {
   const std::string zero(1, '\0');
-  EXPECT_EQ(usages("n.a = '" + zero + "é").message,
-            "token recognition error at: ''" + zero + "é'");
+  EXPECT_EQ(usages("n.a = '" + zero + "é").message, "token recognition error at: ''" + zero + "é'");
   EXPECT_EQ(columns("RETURN " + zero).message, "token recognition error at: '" + zero + "'");
 }
 
@@ -117,8 +116,8 @@ TEST_P(CErrors, RefuseAFilterThatTakesTooMuchWork) {
 
 // That it is wrong is known: only its place is not looked for.
 TEST_P(CErrors, TellOfAWrongQueryThatCannotBeSearched) {
-  for (const std::string& query : {"RETURN [x IN " + repeated("(a) + ", 3000) + "?",
-                                   "RETURN " + repeated("(", 3000)}) {
+  for (const std::string& query :
+       {"RETURN [x IN " + repeated("(a) + ", 3000) + "?", "RETURN " + repeated("(", 3000)}) {
     const Told told = columns(query);
     EXPECT_EQ(told.error, VORN_SYNTAX);
     EXPECT_EQ(told.line, 0U);

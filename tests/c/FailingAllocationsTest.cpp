@@ -107,17 +107,17 @@ TEST_P(CFailingAllocations, InALaterCallAreTold) {
                   return "allocation " + std::to_string(failing) + " leaves something behind";
                 }
               }
-              return outOfMemory == 0 ? "none is told of" : ask(GetParam(), 0).told == expected
-                                                                ? ""
-                                                                : "the next answer is wrong";
+              return outOfMemory == 0                      ? "none is told of"
+                     : ask(GetParam(), 0).told == expected ? ""
+                                                           : "the next answer is wrong";
             }),
             "");
 }
 
 TEST_P(CFailingAllocations, InTheFirstCallOfAProcessLeaveTheNextOneRight) {
   const std::string expected = inChildProcess([] { return ask(GetParam(), 0).told; });
-  const std::size_t all = std::stoul(
-      inChildProcess([] { return std::to_string(ask(GetParam(), 0).allocations); }));
+  const std::size_t all =
+      std::stoul(inChildProcess([] { return std::to_string(ask(GetParam(), 0).allocations); }));
   constexpr std::size_t step = 1499;  // the first wrong text makes some 100,000
   for (std::size_t failing = 1; failing <= all; failing += step) {
     ASSERT_EQ(inChildProcess([&]() -> std::string {
@@ -146,8 +146,7 @@ INSTANTIATE_TEST_SUITE_P(
         Question{"WrongFilter", inUtf8<vorn_usages_utf8>, "n.a = AND"},
         Question{"ForbiddenElement", inUtf8<vorn_usages_utf8>, "any(x IN n.l WHERE x)"},
         Question{"Renaming", renaming, "n.n = $n AND any(x IN n.l WHERE m.x = `n`) /* n */"},
-        Question{"WrongRenaming", renaming, "(n.a"},
-        Question{"BadPair", badPair, "n.a"}),
+        Question{"WrongRenaming", renaming, "(n.a"}, Question{"BadPair", badPair, "n.a"}),
     testing::PrintToStringParamName());
 
 TEST(WithoutMemory, TheAnswerSaysSoInItsEncoding) {

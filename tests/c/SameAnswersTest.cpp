@@ -103,9 +103,9 @@ std::string placeBehind(const std::string& beginning) {
   const std::size_t line = beginning.rfind('\n') + 1;  // none is the largest number
   const bool isMarked = line == 0 && beginning.rfind("\uFEFF", 0) == 0;
   const auto lines = 1 + std::count(beginning.begin(), beginning.end(), '\n');
-  const auto column = utf8::distance(beginning.begin() + static_cast<std::ptrdiff_t>(line),
-                                     beginning.end()) -
-                      (isMarked ? 1 : 0);
+  const auto column =
+      utf8::distance(beginning.begin() + static_cast<std::ptrdiff_t>(line), beginning.end()) -
+      (isMarked ? 1 : 0);
   return "line " + std::to_string(lines) + ":" + std::to_string(column) + " ";
 }
 

@@ -40,9 +40,9 @@ void dispose(vorn_answer* answer) { delete answer; }
 
 #else
 
-// The memory of the last released answers is kept, so that it is not yet another answer's when one of
-// them is released again.
-// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): in debug builds only.
+// The memory of the last released answers is kept, so that it is not yet another answer's when one
+// of them is released again.
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): in debug builds only
 std::mutex disposing;
 std::array<vorn_answer*, 1024> disposed{};
 std::size_t disposals = 0;

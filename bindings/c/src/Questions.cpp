@@ -200,8 +200,8 @@ class Writer {
   std::unique_ptr<vorn_answer> answer_ = std::make_unique<vorn_answer>();
 };
 
-// Asks the question and makes an answer of each failure. `ask` takes the text as UTF-8, the listener
-// for its first error, and the answer to write.
+// Asks the question and makes an answer of each failure. `ask` takes the text as UTF-8, the
+// listener for its first error, and the answer to write.
 template <typename Unit, typename Ask>
 vorn_answer* answerTo(const Unit* first, std::size_t length, const Ask& ask) noexcept {
   try {
@@ -288,8 +288,7 @@ vorn_answer* renamingOf(const Unit* expression, std::size_t length, const Pair* 
       quoted.insert_or_assign(quoteSymbolicName(from.view()), quoteSymbolicName(to.view()));
     }
     writer.answer().renamed = writer.keep(interrogator.replaceQuotedNames(quoted));
-    writer.answer().expressionEnd =
-        unitCount<Unit>(text.substr(0, interrogator.expressionEnd()));
+    writer.answer().expressionEnd = unitCount<Unit>(text.substr(0, interrogator.expressionEnd()));
   });
 }
 

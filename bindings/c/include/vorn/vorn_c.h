@@ -49,8 +49,8 @@
  * as for the columns of a filter or of an error, gives a null pointer, zero or VORN_UNKNOWN.
  *
  * **Errors are values**: no C++ exception leaves a function, and none ends the process. The
- * questions may fail, and their answers then tell of it; the other functions cannot fail. To all but
- * vorn_release() an answer must be given, not a null pointer.
+ * questions may fail, and their answers then tell of it; the other functions cannot fail. To all
+ * but vorn_release() an answer must be given, not a null pointer.
  *
  * **Threads**: any number of threads may ask at the same time, and read one answer at the same
  * time. An answer may be released on another thread than it was given to, but only while nobody
@@ -124,17 +124,17 @@ typedef struct vorn_answer vorn_answer;
 
 /** A new name for a variable, in UTF-8. A null pointer with a length of zero is an empty name. */
 typedef struct vorn_rename_pair_utf8 {
-  const char *from;   /**< The name of the variable, with or without back quotes. */
+  const char* from;   /**< The name of the variable, with or without back quotes. */
   size_t from_length; /**< In bytes. */
-  const char *to;     /**< The new name. */
+  const char* to;     /**< The new name. */
   size_t to_length;   /**< In bytes. */
 } vorn_rename_pair_utf8;
 
 /** A new name for a variable, in UTF-16. A null pointer with a length of zero is an empty name. */
 typedef struct vorn_rename_pair_utf16 {
-  const uint16_t *from; /**< The name of the variable, with or without back quotes. */
+  const uint16_t* from; /**< The name of the variable, with or without back quotes. */
   size_t from_length;   /**< In code units. */
-  const uint16_t *to;   /**< The new name. */
+  const uint16_t* to;   /**< The new name. */
   size_t to_length;     /**< In code units. */
 } vorn_rename_pair_utf16;
 
@@ -153,7 +153,7 @@ typedef struct vorn_rename_pair_utf16 {
  * @param length  Its length in bytes.
  * @return Columns, or an error of any kind but VORN_FORBIDDEN. To be released.
  */
-VORN_C_API vorn_answer *vorn_columns_utf8(const char *query, size_t length);
+VORN_C_API vorn_answer* vorn_columns_utf8(const char* query, size_t length);
 /**
  * The same for UTF-16.
  *
@@ -161,7 +161,7 @@ VORN_C_API vorn_answer *vorn_columns_utf8(const char *query, size_t length);
  * @param length  Its length in code units.
  * @return As by vorn_columns_utf8(). To be released.
  */
-VORN_C_API vorn_answer *vorn_columns_utf16(const uint16_t *query, size_t length);
+VORN_C_API vorn_answer* vorn_columns_utf16(const uint16_t* query, size_t length);
 
 /**
  * Finds the variables that a property filter, which is one openCypher expression, uses.
@@ -173,7 +173,7 @@ VORN_C_API vorn_answer *vorn_columns_utf16(const uint16_t *query, size_t length)
  * @param length  Its length in bytes.
  * @return Variables, or an error of any kind. To be released.
  */
-VORN_C_API vorn_answer *vorn_usages_utf8(const char *expression, size_t length);
+VORN_C_API vorn_answer* vorn_usages_utf8(const char* expression, size_t length);
 /**
  * The same for UTF-16.
  *
@@ -181,16 +181,16 @@ VORN_C_API vorn_answer *vorn_usages_utf8(const char *expression, size_t length);
  * @param length  Its length in code units.
  * @return As by vorn_usages_utf8(). To be released.
  */
-VORN_C_API vorn_answer *vorn_usages_utf16(const uint16_t *expression, size_t length);
+VORN_C_API vorn_answer* vorn_usages_utf16(const uint16_t* expression, size_t length);
 
 /**
  * Renames variables in a property filter and leaves every other character as it is written.
  *
- * Every occurrence is renamed, also inside the elements that vorn_usages_utf8() refuses. Text behind
- * the expression is treated as there. Back quotes make no difference, neither around an old name nor
- * around a variable in the text. A new name that begins with a back quote is used as it is,
- * unchecked; any other one is put between back quotes, those inside it doubled. If two old names
- * mean one variable, the later one in the array wins.
+ * Every occurrence is renamed, also inside the elements that vorn_usages_utf8() refuses. Text
+ * behind the expression is treated as there. Back quotes make no difference, neither around an old
+ * name nor around a variable in the text. A new name that begins with a back quote is used as it
+ * is, unchecked; any other one is put between back quotes, those inside it doubled. If two old
+ * names mean one variable, the later one in the array wins.
  *
  * @param expression  The text of the filter, in UTF-8.
  * @param length  Its length in bytes.
@@ -199,8 +199,8 @@ VORN_C_API vorn_answer *vorn_usages_utf16(const uint16_t *expression, size_t len
  * @return A text, or an error of any kind but VORN_FORBIDDEN. A name that is not well formed is an
  *         error even if it is not used. To be released.
  */
-VORN_C_API vorn_answer *vorn_rename_utf8(const char *expression, size_t length,
-                                         const vorn_rename_pair_utf8 *renames, size_t count);
+VORN_C_API vorn_answer* vorn_rename_utf8(const char* expression, size_t length,
+                                         const vorn_rename_pair_utf8* renames, size_t count);
 /**
  * The same for UTF-16.
  *
@@ -210,8 +210,8 @@ VORN_C_API vorn_answer *vorn_rename_utf8(const char *expression, size_t length,
  * @param count  How many new names these are.
  * @return As by vorn_rename_utf8(). To be released.
  */
-VORN_C_API vorn_answer *vorn_rename_utf16(const uint16_t *expression, size_t length,
-                                          const vorn_rename_pair_utf16 *renames, size_t count);
+VORN_C_API vorn_answer* vorn_rename_utf16(const uint16_t* expression, size_t length,
+                                          const vorn_rename_pair_utf16* renames, size_t count);
 
 /**
  * Releases an answer and all its strings.
@@ -220,112 +220,112 @@ VORN_C_API vorn_answer *vorn_rename_utf16(const uint16_t *expression, size_t len
  *         an error of the host's: in a debug build of this library it ends the process with a
  *         message, in others it does what it likes.
  */
-VORN_C_API void vorn_release(vorn_answer *answer);
+VORN_C_API void vorn_release(vorn_answer* answer);
 
 /* Errors. */
 
 /** Whether there is an error, and of which kind: one of enum vorn_error. */
-VORN_C_API int32_t vorn_error_kind(const vorn_answer *answer);
+VORN_C_API int32_t vorn_error_kind(const vorn_answer* answer);
 
 /**
  * The line of an error of kind VORN_SYNTAX, counted from 1. Lines end at a line feed. It is 0 for
  * every other kind, and where a query is wrong but nests too deeply or takes too much work to be
  * searched for the place.
  */
-VORN_C_API size_t vorn_error_line(const vorn_answer *answer);
+VORN_C_API size_t vorn_error_line(const vorn_answer* answer);
 /** The place in that line, in code points, counted from 0. A byte order mark is not counted. */
-VORN_C_API size_t vorn_error_column(const vorn_answer *answer);
+VORN_C_API size_t vorn_error_column(const vorn_answer* answer);
 /**
  * The same place in the text as it was given, in units of its encoding: bytes or code units. A byte
  * order mark is counted. It is the length of the text where an end was not expected.
  */
-VORN_C_API size_t vorn_error_offset(const vorn_answer *answer);
+VORN_C_API size_t vorn_error_offset(const vorn_answer* answer);
 
 /** What is wrong, in English and without the place. Empty if there is no error. */
-VORN_C_API const char *vorn_error_message_utf8(const vorn_answer *answer, size_t *length);
+VORN_C_API const char* vorn_error_message_utf8(const vorn_answer* answer, size_t* length);
 /** The same of a question in UTF-16. */
-VORN_C_API const uint16_t *vorn_error_message_utf16(const vorn_answer *answer, size_t *length);
+VORN_C_API const uint16_t* vorn_error_message_utf16(const vorn_answer* answer, size_t* length);
 
 /**
  * The type of the first element that the filter must not hold: OC_ListComprehension,
  * OC_PatternComprehension, OC_Quantifier, OC_PatternPredicate or OC_ExistentialSubquery. Empty if
  * the kind is not VORN_FORBIDDEN.
  */
-VORN_C_API const char *vorn_error_element_utf8(const vorn_answer *answer, size_t *length);
+VORN_C_API const char* vorn_error_element_utf8(const vorn_answer* answer, size_t* length);
 /** The same of a question in UTF-16. */
-VORN_C_API const uint16_t *vorn_error_element_utf16(const vorn_answer *answer, size_t *length);
+VORN_C_API const uint16_t* vorn_error_element_utf16(const vorn_answer* answer, size_t* length);
 
 /* Columns, in the order of the query. */
 
 /** How many columns the query returns. */
-VORN_C_API size_t vorn_column_count(const vorn_answer *answer);
+VORN_C_API size_t vorn_column_count(const vorn_answer* answer);
 
 /** The name of a column, without back quotes. */
-VORN_C_API const char *vorn_column_name_utf8(const vorn_answer *answer, size_t column,
-                                             size_t *length);
+VORN_C_API const char* vorn_column_name_utf8(const vorn_answer* answer, size_t column,
+                                             size_t* length);
 /** The same of a question in UTF-16. */
-VORN_C_API const uint16_t *vorn_column_name_utf16(const vorn_answer *answer, size_t column,
-                                                  size_t *length);
+VORN_C_API const uint16_t* vorn_column_name_utf16(const vorn_answer* answer, size_t column,
+                                                  size_t* length);
 
 /** What a column holds: one of enum vorn_type. */
-VORN_C_API int32_t vorn_column_type(const vorn_answer *answer, size_t column);
+VORN_C_API int32_t vorn_column_type(const vorn_answer* answer, size_t column);
 
 /* Usages. Variables stand in ascending order of their names, and so do the forms in which one is
    written, and labels; accesses in ascending order of property paths, then of labels. Names compare
    by their code units in UTF-16, whatever the question's encoding. */
 
 /** How many variables the filter uses. */
-VORN_C_API size_t vorn_variable_count(const vorn_answer *answer);
+VORN_C_API size_t vorn_variable_count(const vorn_answer* answer);
 
 /** The name of a variable, between back quotes. */
-VORN_C_API const char *vorn_variable_name_utf8(const vorn_answer *answer, size_t variable,
-                                               size_t *length);
+VORN_C_API const char* vorn_variable_name_utf8(const vorn_answer* answer, size_t variable,
+                                               size_t* length);
 /** The same of a question in UTF-16. */
-VORN_C_API const uint16_t *vorn_variable_name_utf16(const vorn_answer *answer, size_t variable,
-                                                    size_t *length);
+VORN_C_API const uint16_t* vorn_variable_name_utf16(const vorn_answer* answer, size_t variable,
+                                                    size_t* length);
 
 /** In how many forms the text writes the variable's name. */
-VORN_C_API size_t vorn_written_form_count(const vorn_answer *answer, size_t variable);
+VORN_C_API size_t vorn_written_form_count(const vorn_answer* answer, size_t variable);
 
 /** One of these forms, as the text has it: with or without back quotes. */
-VORN_C_API const char *vorn_written_form_utf8(const vorn_answer *answer, size_t variable,
-                                              size_t form, size_t *length);
+VORN_C_API const char* vorn_written_form_utf8(const vorn_answer* answer, size_t variable,
+                                              size_t form, size_t* length);
 /** The same of a question in UTF-16. */
-VORN_C_API const uint16_t *vorn_written_form_utf16(const vorn_answer *answer, size_t variable,
-                                                   size_t form, size_t *length);
+VORN_C_API const uint16_t* vorn_written_form_utf16(const vorn_answer* answer, size_t variable,
+                                                   size_t form, size_t* length);
 
 /**
  * In how many distinct ways the filter uses the variable. Each is a property path with the labels
  * that are tested behind it. A bare use, a subscript included, has neither.
  */
-VORN_C_API size_t vorn_access_count(const vorn_answer *answer, size_t variable);
+VORN_C_API size_t vorn_access_count(const vorn_answer* answer, size_t variable);
 
 /** How many property keys the path of an access has: 2 for `n.address.city`. */
-VORN_C_API size_t vorn_property_count(const vorn_answer *answer, size_t variable, size_t access);
+VORN_C_API size_t vorn_property_count(const vorn_answer* answer, size_t variable, size_t access);
 
 /** One of the keys, in the order of the path, between back quotes. */
-VORN_C_API const char *vorn_property_utf8(const vorn_answer *answer, size_t variable, size_t access,
-                                          size_t property, size_t *length);
+VORN_C_API const char* vorn_property_utf8(const vorn_answer* answer, size_t variable, size_t access,
+                                          size_t property, size_t* length);
 /** The same of a question in UTF-16. */
-VORN_C_API const uint16_t *vorn_property_utf16(const vorn_answer *answer, size_t variable,
-                                               size_t access, size_t property, size_t *length);
+VORN_C_API const uint16_t* vorn_property_utf16(const vorn_answer* answer, size_t variable,
+                                               size_t access, size_t property, size_t* length);
 
 /** How many labels are tested behind the path of an access: 1 for `n:Person`. */
-VORN_C_API size_t vorn_label_count(const vorn_answer *answer, size_t variable, size_t access);
+VORN_C_API size_t vorn_label_count(const vorn_answer* answer, size_t variable, size_t access);
 
 /** One of the labels, between back quotes. */
-VORN_C_API const char *vorn_label_utf8(const vorn_answer *answer, size_t variable, size_t access,
-                                       size_t label, size_t *length);
+VORN_C_API const char* vorn_label_utf8(const vorn_answer* answer, size_t variable, size_t access,
+                                       size_t label, size_t* length);
 /** The same of a question in UTF-16. */
-VORN_C_API const uint16_t *vorn_label_utf16(const vorn_answer *answer, size_t variable,
-                                            size_t access, size_t label, size_t *length);
+VORN_C_API const uint16_t* vorn_label_utf16(const vorn_answer* answer, size_t variable,
+                                            size_t access, size_t label, size_t* length);
 
 /* Renaming. */
 
 /** The filter with the new names. */
-VORN_C_API const char *vorn_renamed_utf8(const vorn_answer *answer, size_t *length);
+VORN_C_API const char* vorn_renamed_utf8(const vorn_answer* answer, size_t* length);
 /** The same of a question in UTF-16. */
-VORN_C_API const uint16_t *vorn_renamed_utf16(const vorn_answer *answer, size_t *length);
+VORN_C_API const uint16_t* vorn_renamed_utf16(const vorn_answer* answer, size_t* length);
 
 /**
  * Of usages and renaming: where the expression ends in the text as it was given, in units of its
@@ -333,10 +333,10 @@ VORN_C_API const uint16_t *vorn_renamed_utf16(const vorn_answer *answer, size_t 
  * expression. Otherwise it is where the last token of the expression ends, and what follows was
  * dropped.
  */
-VORN_C_API size_t vorn_expression_end(const vorn_answer *answer);
+VORN_C_API size_t vorn_expression_end(const vorn_answer* answer);
 
 /** The version of the library that is loaded, such as "1.0.0", in ASCII. Valid for ever. */
-VORN_C_API const char *vorn_version(void);
+VORN_C_API const char* vorn_version(void);
 
 /** @cond */
 #ifdef __cplusplus
