@@ -22,8 +22,8 @@ setup: ## install the packages that are missing, get the ANTLR runtime
 $(BUILD)/build.ninja: | setup
 	@cmake --preset release >/dev/null
 
-build: setup $(BUILD)/build.ninja ## build the library and vorn-inspect
-	@cmake --build --preset release --target VornLib vorn-inspect
+build: setup $(BUILD)/build.ninja ## build the libraries and vorn-inspect
+	@cmake --build --preset release --target VornLib vorn_c vorn-inspect
 
 release: setup ## build the library for packages, optimised as a whole by a profile, in build/optimized
 	@tools/install-packages.sh bench

@@ -1,4 +1,4 @@
-# What an installation holds: library, headers, CMake package, pkg-config file, vorn-inspect. All of it
+# What an installation holds: libraries, headers, CMake package, pkg-config files, vorn-inspect. All of it
 # can be moved to another place as a whole.
 include(CMakePackageConfigHelpers)
 
@@ -9,6 +9,16 @@ install(TARGETS VornLib EXPORT VornLibTargets
   INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
   FILES_MATCHING PATTERN "*.h")
+if(TARGET vorn_c)
+  install(TARGETS vorn_c EXPORT VornLibTargets
+    INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+  install(FILES "${PROJECT_SOURCE_DIR}/bindings/c/include/vorn/vorn_c.h"
+    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/vorn")
+  if(WIN32)
+    install(FILES "${PROJECT_SOURCE_DIR}/bindings/c/src/vorn_c.def"
+      DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+  endif()
+endif()
 if(MINGW)
   install(FILES ${VORN_COMPILER_RUNTIME} DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endif()
@@ -34,6 +44,10 @@ else()
 endif()
 configure_file("${CMAKE_CURRENT_LIST_DIR}/VornLib.pc.in" VornLib.pc @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/VornLib.pc" DESTINATION "${pkg_config_folder}")
+if(TARGET vorn_c)
+  configure_file("${CMAKE_CURRENT_LIST_DIR}/vorn_c.pc.in" vorn_c.pc @ONLY)
+  install(FILES "${CMAKE_CURRENT_BINARY_DIR}/vorn_c.pc" DESTINATION "${pkg_config_folder}")
+endif()
 
 if(VORN_BUILD_EXAMPLES)
   file(RELATIVE_PATH libraries_from_programs

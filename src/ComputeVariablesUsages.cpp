@@ -1,5 +1,3 @@
-#include <algorithm>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -14,63 +12,55 @@ namespace vorn {
 
 namespace {
 
-std::string forbiddenMessage(std::string_view typeName, std::string_view element) {
+// The text of the element is given only if it is a single token. Tokens are separate objects, so
+// nothing may be read by stepping from the first one towards the last.
+std::logic_error forbiddenElement(std::string_view typeName, std::string_view element) {
   constexpr std::size_t room = 96;
   std::string message;
   message.reserve(room + typeName.size() + element.size());
   message.append("The openCypher element '").append(element).append("' of type '").append(typeName);
-  return message.append("' is forbidden in a property filter expression.");
-}
-
-// Empty for an element that has its place in a property filter.
-std::string_view typeNameOfForbidden(TreeRule rule) {
-  switch (rule) {
-    case TreeRule::oC_ListComprehension:
-      return "OC_ListComprehension";
-    case TreeRule::oC_PatternComprehension:
-      return "OC_PatternComprehension";
-    case TreeRule::oC_Quantifier:
-      return "OC_Quantifier";
-    case TreeRule::oC_PatternPredicate:
-      return "OC_PatternPredicate";
-    case TreeRule::oC_ExistentialSubquery:
-      return "OC_ExistentialSubquery";
-    default:
-      return {};
-  }
-}
-
-// The text of the element is given only if it is a single token. Tokens are separate objects, so
-// nothing may be read by stepping from the first one towards the last.
-ForbiddenElement forbiddenElementAt(const SyntaxTree& tree, const SyntaxTree::Node& node) {
-  const std::string_view typeName = typeNameOfForbidden(node.rule);
-  const std::string_view text = node.first == node.last ? tree.textOf(node) : std::string_view();
-  return {typeName, forbiddenMessage(typeName, text)};
+  return std::logic_error(message.append("' is forbidden in a property filter expression."));
 }
 
 // Fails at the first element that brings variables or patterns of its own into a property filter.
 class PropertyFilterListener : public TreeListener {
  public:
-  explicit PropertyFilterListener(const SyntaxTree& ofFilter) : tree(ofFilter) {}
+  PropertyFilterListener(const SyntaxTree& ofFilter, std::string_view* typeOfRejected)
+      : tree(ofFilter), rejectedType(typeOfRejected) {}
 
-  void enterOC_ListComprehension(const SyntaxTree::Node& node) const { reject(node); }
+  void enterOC_ListComprehension(const SyntaxTree::Node& node) const {
+    reject("OC_ListComprehension", node);
+  }
 
-  void enterOC_PatternComprehension(const SyntaxTree::Node& node) const { reject(node); }
+  void enterOC_PatternComprehension(const SyntaxTree::Node& node) const {
+    reject("OC_PatternComprehension", node);
+  }
 
-  void enterOC_Quantifier(const SyntaxTree::Node& node) const { reject(node); }
+  void enterOC_Quantifier(const SyntaxTree::Node& node) const { reject("OC_Quantifier", node); }
 
-  void enterOC_PatternPredicate(const SyntaxTree::Node& node) const { reject(node); }
+  void enterOC_PatternPredicate(const SyntaxTree::Node& node) const {
+    reject("OC_PatternPredicate", node);
+  }
 
-  void enterOC_ExistentialSubquery(const SyntaxTree::Node& node) const { reject(node); }
+  void enterOC_ExistentialSubquery(const SyntaxTree::Node& node) const {
+    reject("OC_ExistentialSubquery", node);
+  }
 
  protected:
   const SyntaxTree& tree;
 
  private:
   // Inline, for an exception takes as long for each function that it leaves as some parses do.
-  [[noreturn, gnu::always_inline]] inline void reject(const SyntaxTree::Node& node) const {
-    throw std::logic_error(forbiddenElementAt(tree, node).message);
+  [[noreturn, gnu::always_inline]] inline void reject(std::string_view typeName,
+                                                      const SyntaxTree::Node& node) const {
+    if (rejectedType != nullptr) {
+      *rejectedType = typeName;
+    }
+    throw forbiddenElement(typeName,
+                           node.first == node.last ? tree.textOf(node) : std::string_view());
   }
+
+  std::string_view* rejectedType;
 };
 
 WideString wide(std::string_view utf8) {
@@ -81,8 +71,8 @@ WideString quotedWide(std::string_view name) { return wide(quoteSymbolicName(nam
 
 }  // namespace
 
-std::map<WideString, VariableUsage> PropertyFilterExpressionInterrogator::computeVariablesUsages()
-    const {
+std::map<WideString, VariableUsage> PropertyFilterExpressionInterrogator::computeVariablesUsages(
+    std::string_view* forbiddenType) const {
   struct Listener : PropertyFilterListener {
     using PropertyFilterListener::PropertyFilterListener;
 
@@ -116,20 +106,9 @@ std::map<WideString, VariableUsage> PropertyFilterExpressionInterrogator::comput
     VariableUsage* lastUsage = nullptr;
   };
 
-  Listener listener(tree);
+  Listener listener(tree, forbiddenType);
   walk(tree, listener);
   return std::move(listener.usages);
-}
-
-std::optional<ForbiddenElement> PropertyFilterExpressionInterrogator::forbiddenElement() const {
-  // Nodes stand in the order in which the walk enters them.
-  const auto first = std::find_if(
-      tree.nodes.begin(), tree.nodes.end(),
-      [](const SyntaxTree::Node& node) { return !typeNameOfForbidden(node.rule).empty(); });
-  if (first == tree.nodes.end()) {
-    return std::nullopt;
-  }
-  return forbiddenElementAt(tree, *first);
 }
 
 }  // namespace vorn

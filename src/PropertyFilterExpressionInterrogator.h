@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -14,12 +13,6 @@ class ANTLRErrorListener;
 }  // namespace antlr4
 
 namespace vorn {
-
-/// What a property filter is refused for.
-struct ForbiddenElement {
-  std::string_view typeName;  // "OC_Quantifier", for instance
-  std::string message;        // UTF-8
-};
 
 /// A property filter, which is one expression: parsed by the constructor, asked for its variables
 /// or rewritten with new names for them.
@@ -34,8 +27,10 @@ class PropertyFilterExpressionInterrogator : private InterrogatorBase {
   PropertyFilterExpressionInterrogator(std::string_view expression,
                                        antlr4::ANTLRErrorListener& errors);
 
-  /// Throws std::logic_error at the first element that has no place in a property filter.
-  [[nodiscard]] std::map<WideString, VariableUsage> computeVariablesUsages() const;
+  /// Throws std::logic_error at the first element that has no place in a property filter. Stores
+  /// its type, "OC_Quantifier" for instance, if there is a place for it.
+  [[nodiscard]] std::map<WideString, VariableUsage> computeVariablesUsages(
+      std::string_view* forbiddenType = nullptr) const;
 
   /// Does not validate.
   [[nodiscard]] WideString replaceVariableNames(
@@ -44,9 +39,6 @@ class PropertyFilterExpressionInterrogator : private InterrogatorBase {
   /// The same in UTF-8, with names that are back-quoted on both sides.
   [[nodiscard]] std::string replaceQuotedNames(
       const std::unordered_map<std::string, std::string>& renames) const;
-
-  /// The first element that has no place in a property filter, if there is one.
-  [[nodiscard]] std::optional<ForbiddenElement> forbiddenElement() const;
 
   /// Where the expression ends, in bytes of UTF-8: at the end of the text, if nothing but white
   /// space stands behind its last token.

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <map>
 #include <memory>
 #include <new>
 #include <stdexcept>
@@ -254,12 +255,18 @@ vorn_answer* usagesOf(const Unit* expression, std::size_t length) noexcept {
   return answerTo(expression, length, [](std::string_view text, FirstError& error, auto& writer) {
     const PropertyFilterExpressionInterrogator interrogator(text, error);
     vorn_answer& answer = writer.answer();
-    if (const auto forbidden = interrogator.forbiddenElement()) {
-      writer.fail(VORN_FORBIDDEN, forbidden->message);
-      answer.error.element = writer.keep(forbidden->typeName);
+    std::string_view forbiddenType;
+    std::map<WideString, VariableUsage> usages;
+    try {
+      usages = interrogator.computeVariablesUsages(&forbiddenType);
+    } catch (const std::logic_error& exception) {
+      if (forbiddenType.empty()) {
+        throw;
+      }
+      writer.fail(VORN_FORBIDDEN, exception.what());
+      answer.error.element = writer.keep(forbiddenType);
       return;
     }
-    const auto usages = interrogator.computeVariablesUsages();
     answer.variables.reserve(usages.size());
     for (const auto& [name, usage] : usages) {
       Variable& variable = answer.variables.emplace_back();
