@@ -16,7 +16,7 @@ import unittest
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "tests" / "packaging"))
 
-from minimal_host import TESTS, block  # noqa: E402
+from minimal_host import C_ANSWER, C_HOST, C_QUERY, TESTS, block  # noqa: E402
 
 PACKAGES = sorted(path for path in (ROOT / "build" / "packages").glob("*.deb") if "dbgsym" not in path.name)
 AS_ROOT = [] if os.geteuid() == 0 else ["sudo"]
@@ -45,6 +45,9 @@ class Packages(unittest.TestCase):
         host.mkdir()
         shutil.copy(TESTS / "find_package" / "CMakeLists.txt", host)
         (host / "host.cpp").write_text(block("cpp", "// host.cpp"), encoding="utf-8")
+        (host / "c").mkdir()
+        shutil.copy(TESTS / "c_host" / "CMakeLists.txt", host / "c")
+        shutil.copy(C_HOST, host / "c")
         upload = " ".join(f"'{path}'" for path in PACKAGES)
         run(
             *AS_ROOT, "mmdebstrap", "--variant=apt", f"--include={TOOLS}",
@@ -59,9 +62,9 @@ class Packages(unittest.TestCase):
         environment = ["env", "-i", "PATH=/usr/sbin:/usr/bin:/sbin:/bin", "LC_ALL=C.UTF-8"]
         return run(*AS_ROOT, *environment, "chroot", self.root, "bash", "-ec", f"cd /host; {commands}")
 
-    def test_are_three(self) -> None:
+    def test_are_four(self) -> None:
         names = [path.name.split("_")[0] for path in PACKAGES]
-        self.assertEqual(names, ["libvornlib-dev", "libvornlib1", "vorn-inspect"])
+        self.assertEqual(names, ["libvorn-c1", "libvornlib-dev", "libvornlib1", "vorn-inspect"])
 
     def test_let_a_host_be_built_by_cmake(self) -> None:
         self.inside("cmake -G Ninja -DWANTED_VERSION=1 -B build . && cmake --build build")
@@ -70,6 +73,12 @@ class Packages(unittest.TestCase):
     def test_let_a_host_be_built_by_pkg_config(self) -> None:
         self.inside("g++ -std=c++17 host.cpp $(pkg-config --cflags --libs VornLib) -o host")
         self.assertEqual(self.inside("./host"), block("text", "n: a node"))
+
+    def test_let_a_host_in_c_be_built(self) -> None:
+        self.inside("cmake -G Ninja -S c -B build-c && cmake --build build-c")
+        self.inside("cc -std=c99 c/columns.c $(pkg-config --cflags --libs vorn_c) -o columns")
+        for program in ["build-c/columns", "./columns"]:
+            self.assertEqual(self.inside(f"{program} '{C_QUERY}'"), C_ANSWER)
 
     def test_have_vorn_inspect_with_its_manual(self) -> None:
         self.assertIn("Node", self.inside("vorn-inspect columns 'MATCH (n) RETURN n'"))
@@ -104,9 +113,10 @@ class Packages(unittest.TestCase):
         # Debian 12 does not build with control-flow protection.
         common = ["hardening-check", "--nocfprotection"]
         run(*common, self.root / "usr/bin/vorn-inspect")
-        (library,) = self.root.glob("usr/lib/*/libVornLib.so.1.*")
-        # All that fortifying knows of in the library copies to buffers whose size no compiler can tell.
-        run(*common, "--nopie", "--nofortify", library)
+        for name in ["libVornLib.so.1.*", "libvorn_c.so.1.*"]:
+            (library,) = self.root.glob(f"usr/lib/*/{name}")
+            # All that fortifying knows of in there copies to buffers whose size no compiler can tell.
+            run(*common, "--nopie", "--nofortify", library)
 
 
 if __name__ == "__main__":

@@ -46,11 +46,25 @@ class Installed(HostTest):
                 self.find_package(version)
             self.assertIn("version", str(refused.exception))
 
-    def pkg_config(self, *options: str) -> list[str]:
+    def pkg_config(self, *options: str, package: str = "VornLib") -> list[str]:
         folder = next(INSTALLED.rglob("VornLib.pc")).parent
         return self.run_command(
-            "pkg-config", *options, "VornLib", env={**os.environ, "PKG_CONFIG_PATH": str(folder)}
+            "pkg-config", *options, package, env={**os.environ, "PKG_CONFIG_PATH": str(folder)}
         ).split()
+
+    def test_serves_c_as_a_cmake_package(self) -> None:
+        self.put_c_host()
+        self.configure("c_host", f"-DCMAKE_PREFIX_PATH={INSTALLED}")
+        self.build()
+        self.check_c_host("build/columns")
+
+    def test_serves_c_as_a_pkg_config_package(self) -> None:
+        self.put_c_host()
+        flags = self.pkg_config("--cflags", "--libs", package="vorn_c")
+        (libraries,) = self.pkg_config("--variable=libdir", package="vorn_c")
+        self.run_command("cc", "-std=c99", "columns.c", *flags, f"-Wl,-rpath,{libraries}", "-o", "columns")
+        self.check_c_host("columns")
+        self.assertEqual(self.pkg_config("--modversion", package="vorn_c"), [VERSION])
 
     def test_is_a_pkg_config_package(self) -> None:
         flags = self.pkg_config("--cflags", "--libs")

@@ -11,6 +11,11 @@ TESTS = pathlib.Path(__file__).resolve().parent
 README = (TESTS.parent.parent / "README.md").read_text(encoding="utf-8")
 
 
+C_HOST = TESTS.parent.parent / "examples" / "hosts" / "c" / "columns.c"
+C_QUERY = "MATCH (n)-[r]-() RETURN n, r, 1 AS one"
+C_ANSWER = "n: a node\nr: a relationship\none: something else\n"
+
+
 def block(language: str, first_words: str) -> str:
     """The one block of the README in this language that begins so."""
     (text,) = re.findall(rf"^```{language}\n({re.escape(first_words)}.*?)^```$", README, re.DOTALL | re.MULTILINE)
@@ -43,6 +48,12 @@ class HostTest(unittest.TestCase):
         self.run_command(
             "cmake", "-S", ".", "-B", "build", "-G", "Ninja", f"-DCMAKE_CXX_COMPILER={self.compiler}", *settings
         )
+
+    def put_c_host(self) -> None:
+        shutil.copy(C_HOST, self.folder)
+
+    def check_c_host(self, program: str) -> None:
+        self.assertEqual(self.run_command(self.folder / program, C_QUERY), C_ANSWER)
 
     def build(self) -> None:
         self.run_command("cmake", "--build", "build", "-j", "2")

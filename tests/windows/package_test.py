@@ -7,6 +7,7 @@ The host and the commands are those of the zip's own README.
 
 import os
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -61,7 +62,11 @@ class Package(unittest.TestCase):
             "bin/libstdc++-6.dll",
             "bin/libgcc_s_seh-1.dll",
             "bin/libwinpthread-1.dll",
+            "bin/vorn_c.dll",
             "include/vorn/vorn.h",
+            "include/vorn/vorn_c.h",
+            "lib/vorn_c.lib",
+            "lib/vorn_c.def",
             "include/vorn/strings/String.h",
             "lib/libVornLib.dll.a",
             "lib/cmake/VornLib/VornLibConfig.cmake",
@@ -96,6 +101,18 @@ class Package(unittest.TestCase):
         command = self.block("sh").replace("FOLDER", str(self.package)).split()
         run(COMPILER, *command[1:], cwd=folder)
         self.assertEqual(self.output_of(folder / "host.exe"), self.block("text"))
+
+    def test_serves_a_host_in_c_with_the_dll_alone(self) -> None:
+        folder = self.scratch / "c"
+        folder.mkdir()
+        host = folder / "columns.exe"
+        run(
+            COMPILER.replace("g++", "gcc"), "-std=c99", "-I", self.package / "include",
+            Path(SOURCE, "examples/hosts/c/columns.c"), self.package / "lib/vorn_c.lib", "-o", host,
+        )  # fmt: skip
+        shutil.copy(self.package / "bin/vorn_c.dll", folder)
+        output = run(EMULATOR, host, "MATCH (n) RETURN n", env={**os.environ, "WINEPATH": str(folder)}, cwd=folder)
+        self.assertEqual(output, "n: a node\n")
 
     def test_has_a_program_to_try(self) -> None:
         output = self.output_of(self.package / "bin" / "vorn-inspect.exe", "columns", "MATCH (ö) RETURN ö")
