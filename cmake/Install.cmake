@@ -49,7 +49,7 @@ if(TARGET vorn_c)
   install(FILES "${CMAKE_CURRENT_BINARY_DIR}/vorn_c.pc" DESTINATION "${pkg_config_folder}")
 endif()
 
-if(VORN_BUILD_EXAMPLES)
+if(TARGET vorn-inspect)
   file(RELATIVE_PATH libraries_from_programs
     "/prefix/${CMAKE_INSTALL_BINDIR}" "/prefix/${CMAKE_INSTALL_LIBDIR}")
   set_target_properties(vorn-inspect PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")

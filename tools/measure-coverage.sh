@@ -17,7 +17,7 @@ find $build -name '*.gcda' -delete
 ctest --preset coverage
 mkdir -p $report
 # Branches that only an exception takes are not counted: nearly every call has one.
-gcovr --root . --filter '(src|strings|platform|include/vorn|examples/vorn-inspect)/' \
+gcovr --root . --filter '(src|strings|platform|include/vorn|inspect)/' \
     --exclude-throw-branches --exclude-unreachable-branches \
     --html-details $report/index.html --html-title VornLib --txt $report/lines.txt --csv $report/lines.csv \
     --print-summary --fail-under-line 95 -j "$(nproc)" $build ||
