@@ -1,5 +1,3 @@
-#include "ColumnsCommand.h"
-
 #include <vorn/vorn.h>
 
 #include <optional>
@@ -7,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "Command.h"
 #include "Request.h"
 #include "Table.h"
 #include "Utf16.h"

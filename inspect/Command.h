@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "Json.h"
+#include "Request.h"
 
 namespace inspect {
 
@@ -25,6 +25,15 @@ struct Command {
   Answer (*answer)(const Json& request);
   std::string (*report)(const Json& request);  ///< for people
 };
+
+/// Which columns a query returns.
+extern const Command columnsCommand;
+
+/// Which variables a property filter uses, and what it reads from each.
+extern const Command usagesCommand;
+
+/// What a property filter reads like after some of its variables are renamed.
+extern const Command renameCommand;
 
 /// The command's answer, or the reason why there is none.
 Answer answerTo(const Json& request, const Command& command);

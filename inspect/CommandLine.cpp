@@ -7,16 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "ColumnsCommand.h"
+#include "Command.h"
 #include "Failure.h"
+#include "InputOutput.h"
 #include "JsonLines.h"
-#include "RenameArgument.h"
-#include "RenameCommand.h"
-#include "StandardOutput.h"
+#include "RenameArguments.h"
 #include "SyntaxErrorView.h"
-#include "TextSource.h"
-#include "UsageError.h"
-#include "UsagesCommand.h"
 
 namespace inspect {
 
@@ -137,23 +133,10 @@ std::string textOf(const Invocation& invocation) {
   return text;
 }
 
-Json renamesOf(const Invocation& invocation) {
-  Json renames = Json::object();
-  for (const std::string& argument : invocation.map->results()) {
-    requireUtf8(argument, "a name for --map");
-    auto [oldName, newName] = parseRenameArgument(argument);
-    if (renames.contains(oldName)) {
-      throw UsageError("give each variable one new name; '" + oldName + "' has two.");
-    }
-    renames[oldName] = std::move(newName);
-  }
-  return renames;
-}
-
 Json requestOf(const Invocation& invocation) {
   Json request;
   if (invocation.map != nullptr) {
-    request["renames"] = renamesOf(invocation);
+    request["renames"] = renamesFrom(invocation.map->results());
   }
   request[invocation.command->textMember] = textOf(invocation);
   return request;

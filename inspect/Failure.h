@@ -3,7 +3,7 @@
 #include <exception>
 #include <string>
 
-#include "Json.h"
+#include "Request.h"
 
 namespace inspect {
 

@@ -4,9 +4,8 @@
 #include <iostream>
 #include <string>
 
-#include "StandardOutput.h"
-#include "StandardStreams.h"
-#include "UsageError.h"
+#include "InputOutput.h"
+#include "System.h"
 
 namespace inspect {
 

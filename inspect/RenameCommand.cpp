@@ -1,10 +1,9 @@
-#include "RenameCommand.h"
-
 #include <vorn/vorn.h>
 
 #include <unordered_map>
 #include <utility>
 
+#include "Command.h"
 #include "Request.h"
 #include "Utf16.h"
 

@@ -1,12 +1,17 @@
 #pragma once
 
+#include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
-#include "Json.h"
-
 namespace inspect {
+
+/// What is read. Members are found quickly, however many there are.
+using Json = nlohmann::json;
+
+/// What is written. Members stay in the order in which they are put in.
+using OrderedJson = nlohmann::ordered_json;
 
 /// A request that is not what the command takes.
 class InputError : public std::runtime_error {

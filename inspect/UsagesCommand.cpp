@@ -1,5 +1,3 @@
-#include "UsagesCommand.h"
-
 #include <utf8.h>
 #include <utf8proc.h>
 #include <vorn/vorn.h>
@@ -9,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "Command.h"
 #include "Request.h"
 #include "Table.h"
 #include "Utf16.h"

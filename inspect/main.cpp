@@ -1,9 +1,8 @@
 #include <exception>
 #include <iostream>
 
-#include "Arguments.h"
 #include "CommandLine.h"
-#include "StandardStreams.h"
+#include "System.h"
 
 namespace {
 

@@ -1,15 +1,23 @@
-#include "StandardStreams.h"
+#include "System.h"
 
 #include <fcntl.h>
 #include <io.h>
+#include <utf8.h>
 #include <windows.h>
+// Needs windows.h before it.
+#include <shellapi.h>
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <iostream>
+#include <iterator>
+#include <memory>
 #include <sstream>
 #include <string>
+#include <string_view>
+
+#include "InputOutput.h"
 
 namespace inspect {
 
@@ -127,6 +135,24 @@ class Redirection {
 };
 
 }  // namespace
+
+// What main is given has gone through the system's code page, which has not all characters.
+std::vector<std::string> argumentsInUtf8(int /*argc*/, const char* const* /*argv*/) {
+  int count = 0;
+  const std::unique_ptr<LPWSTR, decltype(&LocalFree)> list(
+      CommandLineToArgvW(GetCommandLineW(), &count), LocalFree);
+  std::vector<std::string> arguments;
+  for (int i = 0; list != nullptr && i < count; ++i) {
+    const std::wstring_view wide = list.get()[i];
+    try {
+      utf8::utf16to8(wide.begin(), wide.end(), std::back_inserter(arguments.emplace_back()));
+    } catch (const utf8::exception&) {
+      throw UsageError("argument " + std::to_string(i) +
+                       " holds half a character of UTF-16; give all of it.");
+    }
+  }
+  return arguments;
+}
 
 class StandardStreams::Consoles {
   Redirection<ConsoleInput> in{STD_INPUT_HANDLE, std::cin};

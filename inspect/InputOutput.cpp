@@ -1,4 +1,4 @@
-#include "TextSource.h"
+#include "InputOutput.h"
 
 #include <utf8.h>
 
@@ -9,8 +9,6 @@
 #include <iostream>
 #include <iterator>
 #include <system_error>
-
-#include "UsageError.h"
 
 namespace inspect {
 
@@ -45,6 +43,12 @@ void requireUtf8(const std::string& text, const std::string& what) {
     throw UsageError(what + " is not UTF-8 (see byte " +
                      std::to_string(std::distance(text.begin(), bad) + 1) +
                      "); convert it and try again.");
+  }
+}
+
+void writeOut(std::string_view text) {
+  if (!(std::cout << text << std::flush)) {
+    throw UsageError("standard output cannot be written; direct it to where there is room.");
   }
 }
 

@@ -1,8 +1,16 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace inspect {
+
+// What differs from system to system.
+
+/// The arguments in UTF-8, the name of the program first. Throws UsageError when the system gave
+/// them in another encoding and one cannot be converted.
+std::vector<std::string> argumentsInUtf8(int argc, const char* const* argv);
 
 /// While it lives, std::cin, std::cout and std::cerr carry UTF-8: a file or another program gets
 /// and gives every byte as it is, a terminal or console the characters.

@@ -1,8 +1,10 @@
-#include "RenameArgument.h"
+#include "RenameArguments.h"
 
 #include <cstddef>
+#include <string_view>
+#include <utility>
 
-#include "UsageError.h"
+#include "InputOutput.h"
 
 namespace inspect {
 
@@ -21,8 +23,6 @@ std::size_t findOutsideBackQuotes(std::string_view text, char wanted) {
   return std::string_view::npos;
 }
 
-}  // namespace
-
 std::pair<std::string, std::string> parseRenameArgument(std::string_view argument) {
   const std::size_t equals = findOutsideBackQuotes(argument, '=');
   if (equals == std::string_view::npos || equals == 0 || equals + 1 == argument.size()) {
@@ -30,6 +30,21 @@ std::pair<std::string, std::string> parseRenameArgument(std::string_view argumen
                      std::string(argument) + "'.");
   }
   return {std::string(argument.substr(0, equals)), std::string(argument.substr(equals + 1))};
+}
+
+}  // namespace
+
+Json renamesFrom(const std::vector<std::string>& arguments) {
+  Json renames = Json::object();
+  for (const std::string& argument : arguments) {
+    requireUtf8(argument, "a name for --map");
+    auto [oldName, newName] = parseRenameArgument(argument);
+    if (renames.contains(oldName)) {
+      throw UsageError("give each variable one new name; '" + oldName + "' has two.");
+    }
+    renames[oldName] = std::move(newName);
+  }
+  return renames;
 }
 
 }  // namespace inspect

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace inspect {
+
+/// The program was called in a way that leaves nothing to analyse. what() says what to do.
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// What comes from files and streams, and goes to them. All of these throw UsageError.
+
+std::string readFile(const std::string& path);
+
+std::string readStandardInput();
+
+/// `what` names the text in the message.
+void requireUtf8(const std::string& text, const std::string& what);
+
+/// Writes at once, since another program may be waiting for it.
+void writeOut(std::string_view text);
+
+}  // namespace inspect
