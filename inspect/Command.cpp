@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "DisplayText.h"
 #include "Failure.h"
 #include "Request.h"
 
@@ -25,7 +26,9 @@ Answer answerToLine(const std::string& line, const Command& command) {
 
 std::string toLine(const Answer& answer) {
   // Should a message quote bytes that are not UTF-8, they must not stop a batch.
-  return answer.json.dump(-1, ' ', false, OrderedJson::error_handler_t::replace) + '\n';
+  return escapeControlsInJson(
+             answer.json.dump(-1, ' ', false, OrderedJson::error_handler_t::replace)) +
+         '\n';
 }
 
 }  // namespace inspect

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Command.h"
+#include "DisplayText.h"
 #include "Failure.h"
 #include "InputOutput.h"
 #include "JsonLines.h"
@@ -149,7 +150,7 @@ int printJson(const Json& request, const Command& command) {
 }
 
 void printFailure(const Failure& failure, const std::string& text) {
-  std::cerr << failure.message << '\n';
+  std::cerr << escapeControls(failure.message) << '\n';
   if (const auto place = placeOfSyntaxError(failure.message)) {
     std::cerr << syntaxErrorView(text, *place);
   }

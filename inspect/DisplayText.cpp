@@ -4,26 +4,38 @@
 #include <utf8proc.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
 
 namespace inspect {
 
 namespace {
 
-// Marks that turn the direction of writing would reorder the cells after them.
-bool turnsDirection(char32_t character) {
-  return character == U'\u061C' || character == U'\u200E' || character == U'\u200F' ||
-         (character >= U'\u202A' && character <= U'\u202E') ||
-         (character >= U'\u2066' && character <= U'\u2069');
-}
-
+// Joiners are parts of emoji and of words in some scripts.
 bool needsEscape(char32_t character) {
-  const utf8proc_category_t category = utf8proc_category(static_cast<utf8proc_int32_t>(character));
-  return category == UTF8PROC_CATEGORY_CC || category == UTF8PROC_CATEGORY_ZL ||
-         category == UTF8PROC_CATEGORY_ZP || turnsDirection(character);
+  switch (utf8proc_category(static_cast<utf8proc_int32_t>(character))) {
+    case UTF8PROC_CATEGORY_CC:
+    case UTF8PROC_CATEGORY_ZL:
+    case UTF8PROC_CATEGORY_ZP:
+      return true;
+    case UTF8PROC_CATEGORY_CF:
+      return character != U'\u200C' && character != U'\u200D';
+    default:
+      return false;
+  }
 }
 
-// All characters that need an escape lie below U+10000.
+std::string hexadecimal(std::uint32_t number, std::size_t digits) {
+  constexpr std::string_view allDigits = "0123456789abcdef";
+  constexpr unsigned bitsOfDigit = 4;
+  std::string text(digits, '0');
+  for (auto digit = text.rbegin(); digit != text.rend(); ++digit) {
+    *digit = allDigits[number & 0xFU];
+    number >>= bitsOfDigit;
+  }
+  return text;
+}
+
 std::string escape(char32_t character) {
   switch (character) {
     case U'\n':
@@ -33,14 +45,43 @@ std::string escape(char32_t character) {
     case U'\t':
       return "\\t";
     default:
-      break;
+      return character > U'\uFFFF' ? "\\U" + hexadecimal(character, 8)
+                                   : "\\u" + hexadecimal(character, 4);
   }
-  constexpr std::string_view digits = "0123456789abcdef";
-  std::string escaped = "\\u";
-  for (const unsigned shift : {12U, 8U, 4U, 0U}) {
-    escaped += digits[(character >> shift) & 0xFU];
+}
+
+// In JSON an escape is a code unit of UTF-16.
+std::string escapeInJson(char32_t character) {
+  const std::u32string text(1, character);
+  std::string utf8;
+  utf8::utf32to8(text.begin(), text.end(), std::back_inserter(utf8));
+  std::u16string units;
+  utf8::utf8to16(utf8.begin(), utf8.end(), std::back_inserter(units));
+  std::string escaped;
+  for (const char16_t unit : units) {
+    escaped += "\\u" + hexadecimal(unit, 4);
   }
   return escaped;
+}
+
+template <typename Escape>
+std::string withEscapes(std::string_view text, const Escape& escapeOne) {
+  std::string shown;
+  shown.reserve(text.size());
+  for (auto at = text.begin(); at != text.end();) {
+    for (const auto invalid = utf8::find_invalid(at, text.end()); at != invalid;) {
+      const char32_t character = utf8::next(at, invalid);
+      if (needsEscape(character)) {
+        shown += escapeOne(character);
+      } else {
+        utf8::append(character, std::back_inserter(shown));
+      }
+    }
+    if (at != text.end()) {
+      shown += "\\x" + hexadecimal(static_cast<unsigned char>(*at++), 2);
+    }
+  }
+  return shown;
 }
 
 std::size_t clusterWidth(std::string_view cluster) {
@@ -56,19 +97,26 @@ std::size_t clusterWidth(std::string_view cluster) {
 
 }  // namespace
 
-std::string escapeControls(std::string_view text) {
+std::string escapeControls(std::string_view text) { return withEscapes(text, escape); }
+
+std::string escapeControlsInLines(std::string_view text) {
   std::string shown;
-  shown.reserve(text.size());
-  for (std::string_view::const_iterator at = text.begin(); at != text.end();) {
-    const char32_t character = utf8::next(at, text.end());
-    if (needsEscape(character)) {
-      shown += escape(character);
-    } else {
-      utf8::append(character, std::back_inserter(shown));
-    }
+  for (std::size_t done = 0; done != text.size();) {
+    const std::size_t end = std::min(text.find_first_of("\t\n", done), text.size());
+    std::string_view part = text.substr(done, end - done);
+    const bool carriageReturn =
+        end != text.size() && text[end] == '\n' && !part.empty() && part.back() == '\r';
+    part.remove_suffix(carriageReturn ? 1 : 0);
+    shown += escapeControls(part);
+    done += part.size();
+    const std::size_t kept = std::min(text.size(), end + 1) - done;
+    shown += text.substr(done, kept);
+    done += kept;
   }
   return shown;
 }
+
+std::string escapeControlsInJson(std::string_view json) { return withEscapes(json, escapeInJson); }
 
 std::vector<std::string_view> graphemeClusters(std::string_view text) {
   std::vector<std::string_view> clusters;

@@ -7,11 +7,17 @@
 
 namespace inspect {
 
-// All three take UTF-8.
-
-/// The text on one line and without characters that would move the cursor or turn the direction of
-/// writing: a line feed reads \n.
+/// The text on one line and without characters that would move the cursor, turn the direction of
+/// writing or stay unseen: a line feed reads \n. A byte that is not UTF-8 reads \xff.
 std::string escapeControls(std::string_view text);
+
+/// The same for a text of several lines, which keeps its line ends and tabs.
+std::string escapeControlsInLines(std::string_view text);
+
+/// The same for JSON, which means what it meant.
+std::string escapeControlsInJson(std::string_view json);
+
+// What follows takes UTF-8.
 
 /// What a reader takes for one character each: a letter with its combining marks, a joined emoji.
 std::vector<std::string_view> graphemeClusters(std::string_view text);

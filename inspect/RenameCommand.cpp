@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "Command.h"
+#include "DisplayText.h"
 #include "Request.h"
+#include "System.h"
 #include "Utf16.h"
 
 namespace inspect {
@@ -38,7 +40,11 @@ Answer answer(const Json& request) {
   return {std::move(json), true};
 }
 
-std::string report(const Json& request) { return renamedExpression(request) + '\n'; }
+// Into a file or another program the text goes as it is.
+std::string report(const Json& request) {
+  const std::string expression = renamedExpression(request);
+  return (outputIsWatched() ? escapeControlsInLines(expression) : expression) + '\n';
+}
 
 }  // namespace
 

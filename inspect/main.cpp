@@ -2,6 +2,7 @@
 #include <iostream>
 
 #include "CommandLine.h"
+#include "DisplayText.h"
 #include "System.h"
 
 namespace {
@@ -9,7 +10,7 @@ namespace {
 constexpr int failed = 2;
 
 int fail(const char* sentence) {
-  std::cerr << "vorn-inspect: " << sentence << '\n';
+  std::cerr << "vorn-inspect: " << inspect::escapeControls(sentence) << '\n';
   return failed;
 }
 

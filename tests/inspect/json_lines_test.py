@@ -1,12 +1,10 @@
 """Batches: vorn-inspect COMMAND --jsonl"""
 
 import json
-import os
-import pty
 import subprocess
 import unittest
 
-from vorn_inspect import ON_WINDOWS, VORN_INSPECT, InspectTest, answer_lines, main, run
+from vorn_inspect import ON_WINDOWS, VORN_INSPECT, InspectTest, answer_lines, main, run, run_on_terminal
 
 GOOD = b'{"query":"RETURN 1"}'
 GOOD_ANSWER = '{"status":0,"columns":[{"name":"1","type":"Unknown"}]}'
@@ -118,23 +116,7 @@ class Lines(InspectTest):
 class Progress(InspectTest):
     def batch_with_terminal(self, lines: int) -> str:
         """What a batch of that many lines writes to a terminal that is its standard error."""
-        terminal, end = pty.openpty()
-        with subprocess.Popen(
-            [VORN_INSPECT, "columns", "--jsonl"],
-            stdin=subprocess.PIPE,
-            stdout=subprocess.DEVNULL,
-            stderr=end,
-        ) as process:
-            os.close(end)
-            process.communicate((GOOD + b"\n") * lines)
-        written = b""
-        try:
-            while chunk := os.read(terminal, 65536):
-                written += chunk
-        except OSError:
-            pass  # The other end is closed.
-        os.close(terminal)
-        return written.decode()
+        return run_on_terminal("columns", "--jsonl", given=(GOOD + b"\n") * lines, errors_only=True)
 
     @unittest.skipIf(ON_WINDOWS, "a console draws what has changed, in steps of its own")
     def test_of_a_long_batch_is_shown_in_place_and_wiped_at_the_end(self) -> None:

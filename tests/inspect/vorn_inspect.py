@@ -5,8 +5,10 @@
 
 import json
 import os
+import pty
 import subprocess
 import sys
+import termios
 import unittest
 from typing import Any, Union
 
@@ -31,6 +33,30 @@ def run(*arguments: Union[str, bytes], given: Union[str, bytes] = b"", **options
     return Result(
         subprocess.run([VORN_INSPECT, *arguments], stderr=subprocess.PIPE, check=False, **options)
     )
+
+
+def run_on_terminal(*arguments: str, given: bytes = b"", errors_only: bool = False) -> str:
+    """What vorn-inspect writes to a terminal, each line end as it was written."""
+    terminal, end = pty.openpty()
+    attributes = termios.tcgetattr(end)
+    attributes[1] &= ~termios.OPOST
+    termios.tcsetattr(end, termios.TCSANOW, attributes)
+    with subprocess.Popen(
+        [VORN_INSPECT, *arguments],
+        stdin=subprocess.PIPE,
+        stdout=subprocess.DEVNULL if errors_only else end,
+        stderr=end,
+    ) as process:
+        os.close(end)
+        process.communicate(given)
+    written = b""
+    try:
+        while chunk := os.read(terminal, 65536):
+            written += chunk
+    except OSError:
+        pass  # The other end is closed.
+    os.close(terminal)
+    return written.decode()
 
 
 def answer(*arguments: str) -> Any:
