@@ -11,9 +11,9 @@ namespace inspect {
 namespace {
 
 // A doubled back quote inside a quoted name closes and opens the quotes, which comes to the same.
-std::size_t findOutsideBackQuotes(std::string_view text, char wanted) {
+std::size_t findOutsideBackQuotes(std::string_view text, char wanted, std::size_t start = 0) {
   bool quoted = false;
-  for (std::size_t i = 0; i < text.size(); ++i) {
+  for (std::size_t i = start; i < text.size(); ++i) {
     if (text[i] == '`') {
       quoted = !quoted;
     } else if (text[i] == wanted && !quoted) {
@@ -23,11 +23,24 @@ std::size_t findOutsideBackQuotes(std::string_view text, char wanted) {
   return std::string_view::npos;
 }
 
+// Of a name with both a comma and an equals sign, somebody may have meant two names.
+bool listsSeveral(std::string_view argument, std::size_t equals) {
+  const std::size_t comma = findOutsideBackQuotes(argument, ',', equals + 1);
+  return comma != std::string_view::npos &&
+         findOutsideBackQuotes(argument, '=', comma + 1) != std::string_view::npos;
+}
+
 std::pair<std::string, std::string> parseRenameArgument(std::string_view argument) {
   const std::size_t equals = findOutsideBackQuotes(argument, '=');
   if (equals == std::string_view::npos || equals == 0 || equals + 1 == argument.size()) {
     throw UsageError("give --map an old and a new name, as in --map old=new, and not '" +
                      std::string(argument) + "'.");
+  }
+  if (listsSeveral(argument, equals)) {
+    throw UsageError(
+        "give each variable a --map of its own, as in --map a=b --map c=d, and not '" +
+        std::string(argument) +
+        "'; put a new name that holds a comma and an equals sign between back quotes.");
   }
   return {std::string(argument.substr(0, equals)), std::string(argument.substr(equals + 1))};
 }

@@ -44,6 +44,13 @@ class Renaming(InspectTest):
             self.assert_wrong_usage(result, "--map old=new", f"'{argument}'")
         self.assert_wrong_usage(run("rename", "n"), "--map old=new")
 
+    def test_takes_one_variable_with_each_map(self) -> None:
+        for argument in ["n=m,k=l", "n=m,k=", "`n`=m, `k`=`l`"]:
+            result = run("rename", "--map", argument, "n")
+            self.assert_wrong_usage(result, "--map a=b --map c=d", f"'{argument}'", "back quotes")
+        for argument, expected in [("n=`m,k=l`", "`m,k=l`\n"), ("n=m,k", "`m,k`\n")]:
+            self.assertEqual(run("rename", "--map", argument, "n").output, expected)
+
     def test_needs_one_new_name_for_each_variable(self) -> None:
         self.assert_wrong_usage(run("rename", "--map", "n=a", "--map", "n=b", "n"), "'n'")
 
