@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "Failure.h"
 #include "Request.h"
 
 namespace inspect {
@@ -9,6 +10,7 @@ namespace inspect {
 struct Answer {
   OrderedJson json;
   bool analysed;
+  std::string id = {};  ///< the request's, as JSON; empty if it has none
 };
 
 /// One of the library's questions, as it is asked on the command line. A request is a JSON object,
@@ -37,6 +39,9 @@ extern const Command renameCommand;
 
 /// The command's answer, or the reason why there is none.
 Answer answerTo(const Json& request, const Command& command);
+
+/// The answer that tells why there is no other.
+Answer refusal(const Failure& failure);
 
 /// The answer to one line of JSON Lines.
 Answer answerToLine(const std::string& line, const Command& command);

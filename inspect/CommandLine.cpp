@@ -1,6 +1,8 @@
 #include "CommandLine.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <fstream>
 #include <iostream>
 #include <iterator>
 #include <sstream>
@@ -31,13 +33,14 @@ struct Invocation {
   CLI::Option* file;
   CLI::Option* json;
   CLI::Option* jsonLines;
+  CLI::Option* strict;
   CLI::Option* map;
 };
 
 Invocation addCommand(CLI::App& program, const Command& command) {
   const std::string noun = command.textNoun;
   CLI::App* app = program.add_subcommand(command.name, command.description);
-  Invocation invocation{&command, app, nullptr, nullptr, nullptr, nullptr, nullptr};
+  Invocation invocation{&command, app, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr};
   invocation.text = app->add_option("TEXT", CLI::callback_t(),
                                     "The " + noun + " itself, or - to read it from standard input");
   invocation.file = app->add_option("--file", CLI::callback_t(), "Read the " + noun + " from FILE")
@@ -50,10 +53,15 @@ Invocation addCommand(CLI::App& program, const Command& command) {
   }
   invocation.json = app->add_flag("--json", "Answer with one JSON object")->disable_flag_override();
   invocation.jsonLines =
-      app->add_flag("--jsonl", "Answer each line of standard input, a JSON object, by another one")
+      app->add_flag("--jsonl",
+                    "Answer each line of standard input or FILE, a JSON object, by another one")
+          ->disable_flag_override();
+  invocation.strict =
+      app->add_flag("--strict", "With --jsonl: exit with status 1 if a request was refused")
           ->disable_flag_override();
   app->footer(
-      "Put -- before a TEXT that begins with a dash.\n\nA line for --jsonl, and its answer:\n    " +
+      "Put -- before a TEXT that begins with a dash.\n\nA line for --jsonl, and its answer, in "
+      "which an \"id\" is repeated:\n    " +
       std::string(command.example));
   return invocation;
 }
@@ -71,7 +79,8 @@ void describe(CLI::App& program) {
       "    vorn-inspect rename --map n=m \"n.age > 30 AND n:Person\"\n"
       "\n"
       "Exit status: 0 if the text was analysed, 1 if it was not, 2 for wrong usage or a text that\n"
-      "cannot be read. With --jsonl 0 once all lines are answered.");
+      "cannot be read. With --jsonl 0 once all lines are answered; with --strict as well 1 if one\n"
+      "of them was refused.");
 }
 
 std::string helpHint(const Invocation* invocation) {
@@ -79,13 +88,50 @@ std::string helpHint(const Invocation* invocation) {
                                : "see vorn-inspect " + invocation->app->get_name() + " --help.";
 }
 
-std::string adviceOn(const CLI::ParseError& error) {
+std::string quotedList(const std::vector<std::string>& arguments) {
+  std::string list;
+  for (const std::string& argument : arguments) {
+    list += (list.empty() ? "'" : ", '") + argument + "'";
+  }
+  return list;
+}
+
+bool beginsWithDash(const std::string& argument) {
+  return argument.size() > 1 && argument.front() == '-';
+}
+
+std::string adviceOnCommand(const std::vector<std::string>& unexpected) {
+  const std::string choice = "say what to do: columns, usages or rename";
+  const auto word = std::find_if_not(unexpected.begin(), unexpected.end(), beginsWithDash);
+  return word == unexpected.end() ? choice : "'" + *word + "' is no command; " + choice;
+}
+
+std::string adviceOnUnexpected(const std::vector<std::string>& unexpected,
+                               const std::vector<std::string>& arguments) {
+  const auto endOfOptions = std::find(arguments.begin(), arguments.end(), "--");
+  std::vector<std::string> options;
+  for (const std::string& argument : unexpected) {
+    if (beginsWithDash(argument) &&
+        std::find(arguments.begin(), endOfOptions, argument) != endOfOptions) {
+      options.push_back(argument);
+    }
+  }
+  if (!options.empty()) {
+    return (options.size() == 1 ? "unknown option " : "unknown options ") + quotedList(options) +
+           " (put -- before a text that begins with a dash)";
+  }
+  return (unexpected.size() == 1 ? "unexpected argument " : "unexpected arguments ") +
+         quotedList(unexpected) + " (put a text with blanks in it between quotes)";
+}
+
+std::string adviceOn(const CLI::ParseError& error, const CLI::App& program,
+                     const std::vector<std::string>& arguments) {
+  const std::vector<std::string> unexpected = program.remaining(true);
   if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
-    return "say what to do: columns, usages or rename";
+    return adviceOnCommand(unexpected);
   }
   if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
-    return std::string(error.what()) +
-           " (put a text with blanks in it between quotes, and -- before one with a dash in front)";
+    return adviceOnUnexpected(unexpected, arguments);
   }
   return error.what();
 }
@@ -102,14 +148,16 @@ const Invocation* chosen(const std::vector<Invocation>& invocations) {
 bool given(const CLI::Option* option) { return option != nullptr && option->count() > 0; }
 
 void requireNothingBesideJsonLines(const Invocation& invocation) {
-  if (given(invocation.text) || given(invocation.file) || given(invocation.json) ||
-      given(invocation.map)) {
+  if (given(invocation.text) || given(invocation.json) || given(invocation.map)) {
     throw UsageError(
-        "--jsonl takes everything from standard input: leave out the other arguments.");
+        "--jsonl takes everything from standard input or --file: leave out the other arguments.");
   }
 }
 
 void requireOneText(const Invocation& invocation) {
+  if (given(invocation.strict)) {
+    throw UsageError("--strict is for batches: give --jsonl with it; " + helpHint(&invocation));
+  }
   if (given(invocation.text) == given(invocation.file)) {
     const std::string noun = invocation.command->textNoun;
     throw UsageError("give the " + noun +
@@ -168,11 +216,20 @@ int printReport(const Json& request, const Command& command) {
   return analysed;
 }
 
+std::size_t answerBatch(const Invocation& invocation) {
+  if (!given(invocation.file)) {
+    return answerJsonLines(std::cin, "standard input", *invocation.command);
+  }
+  const std::string& path = invocation.file->results().front();
+  std::ifstream file = openFile(path);
+  return answerJsonLines(file, "'" + path + "'", *invocation.command);
+}
+
 int run(const Invocation& invocation) {
   if (given(invocation.jsonLines)) {
     requireNothingBesideJsonLines(invocation);
-    answerJsonLines(*invocation.command);
-    return analysed;
+    const std::size_t refused = answerBatch(invocation);
+    return refused > 0 && given(invocation.strict) ? notAnalysed : analysed;
   }
   requireOneText(invocation);
   const Json request = requestOf(invocation);
@@ -199,7 +256,7 @@ int runCommandLine(const std::vector<std::string>& arguments) {
     writeOut(text.str());
     return analysed;
   } catch (const CLI::ParseError& error) {
-    throw UsageError(adviceOn(error) + "; " + helpHint(chosen(invocations)));
+    throw UsageError(adviceOn(error, program, arguments) + "; " + helpHint(chosen(invocations)));
   }
   return run(*chosen(invocations));
 }

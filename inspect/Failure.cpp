@@ -32,6 +32,8 @@ const char* nameOf(Failure::Kind kind) {
       return "syntax";
     case Failure::Kind::Forbidden:
       return "forbidden";
+    case Failure::Kind::TooLarge:
+      return "too large";
     case Failure::Kind::Other:
       break;
   }

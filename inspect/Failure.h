@@ -13,6 +13,7 @@ struct Failure {
     Input,      ///< the request is not what the command takes
     Syntax,     ///< the text is no openCypher
     Forbidden,  ///< the text is openCypher, but has no place in a property filter
+    TooLarge,
     Other,
   };
 

@@ -5,7 +5,6 @@
 #include <array>
 #include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <iterator>
 #include <system_error>
@@ -22,16 +21,28 @@ std::string readAll(std::istream& in, const std::string& name) {
     text.append(chunk.data(), static_cast<std::size_t>(in.gcount()));
   }
   if (in.bad() || !in.eof()) {
-    throw UsageError(name + " cannot be read (" + std::generic_category().message(errno) +
-                     "); name a file that can.");
+    failToRead(name);
   }
   return text;
 }
 
 }  // namespace
 
-std::string readFile(const std::string& path) {
+void failToRead(const std::string& name) {
+  throw UsageError(name + " cannot be read (" + std::generic_category().message(errno) +
+                   "); name a file that can.");
+}
+
+std::ifstream openFile(const std::string& path) {
   std::ifstream file(std::filesystem::u8path(path), std::ios::binary);
+  if (!file) {
+    failToRead("'" + path + "'");
+  }
+  return file;
+}
+
+std::string readFile(const std::string& path) {
+  std::ifstream file = openFile(path);
   return readAll(file, "'" + path + "'");
 }
 

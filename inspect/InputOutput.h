@@ -1,5 +1,6 @@
 #pragma once
 
+#include <fstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -14,9 +15,14 @@ class UsageError : public std::runtime_error {
 
 // What comes from files and streams, and goes to them. All of these throw UsageError.
 
+std::ifstream openFile(const std::string& path);
+
 std::string readFile(const std::string& path);
 
 std::string readStandardInput();
+
+/// For a stream that stopped before its end. `name` names it in the message.
+[[noreturn]] void failToRead(const std::string& name);
 
 /// `what` names the text in the message.
 void requireUtf8(const std::string& text, const std::string& what);

@@ -1,15 +1,19 @@
 #include "JsonLines.h"
 
-#include <cstddef>
+#include <array>
 #include <iostream>
-#include <string>
+#include <optional>
+#include <string_view>
 
+#include "Failure.h"
 #include "InputOutput.h"
 #include "System.h"
 
 namespace inspect {
 
 namespace {
+
+constexpr std::size_t longestRequest = std::size_t{256} << 20U;
 
 /// A counter that is rewritten in place while somebody watches.
 class Progress {
@@ -41,17 +45,73 @@ class Progress {
   std::size_t lines = 0;
 };
 
+struct Line {
+  std::string text;
+  bool tooLong = false;
+};
+
+void append(Line& line, std::string_view part) {
+  line.tooLong = line.tooLong || part.size() > longestRequest - line.text.size();
+  if (line.tooLong) {
+    line.text = {};
+  } else {
+    line.text += part;
+  }
+}
+
+// Of a line that is too long no more than a piece is kept in memory.
+std::optional<Line> readLine(std::istream& in) {
+  constexpr std::size_t pieceSize = 65536;
+  std::array<char, pieceSize> piece{};
+  std::optional<Line> line;
+  while (in.good()) {
+    in.getline(piece.data(), pieceSize);
+    auto size = static_cast<std::size_t>(in.gcount());
+    const bool complete = in.good();
+    if (!line && (complete || size > 0)) {
+      line.emplace();
+    }
+    if (line) {
+      // The line feed is counted, but not stored.
+      append(*line, {piece.data(), complete ? size - 1 : size});
+    }
+    if (complete) {
+      break;
+    }
+    if (!in.eof() && !in.bad()) {
+      in.clear();
+    }
+  }
+  return line;
+}
+
+Answer answerTo(const Line& line, const Command& command) {
+  return line.tooLong ? refusal({Failure::Kind::TooLarge, "The line has more than 256 MiB."})
+                      : answerToLine(line.text, command);
+}
+
 }  // namespace
 
-void answerJsonLines(const Command& command) {
-  Progress progress;
-  for (std::string line; std::getline(std::cin, line);) {
-    writeOut(toLine(answerToLine(line, command)));
-    progress.lineAnswered();
+std::size_t answerJsonLines(std::istream& in, const std::string& name, const Command& command) {
+  std::size_t lines = 0;
+  std::size_t refused = 0;
+  {
+    Progress progress;
+    while (const std::optional<Line> line = readLine(in)) {
+      const Answer answer = answerTo(*line, command);
+      writeOut(toLine(answer));
+      progress.lineAnswered();
+      ++lines;
+      refused += answer.analysed ? 0 : 1;
+    }
   }
-  if (std::cin.bad()) {
-    throw UsageError("standard input cannot be read to its end; give one that can.");
+  if (in.bad()) {
+    failToRead(name);
   }
+  if (refused > 0) {
+    std::cerr << "vorn-inspect: " << refused << " of " << lines << " requests were refused.\n";
+  }
+  return refused;
 }
 
 }  // namespace inspect

@@ -1,6 +1,53 @@
 #include "Request.h"
 
+#include <algorithm>
+#include <cstddef>
+
 namespace inspect {
+
+namespace {
+
+constexpr std::string_view whiteSpace = " \t\n\r";
+constexpr std::string_view endsOfWords = " \t\n\r{}[]:,";
+
+/// Goes through the tokens of JSON that is known to be well formed.
+class JsonTokens {
+ public:
+  explicit JsonTokens(std::string_view json) : rest_(json) {}
+
+  /// There must be one.
+  std::string_view next() {
+    rest_.remove_prefix(rest_.find_first_not_of(whiteSpace));
+    const std::string_view token =
+        rest_.substr(0, rest_.front() == '"' ? stringSize() : wordSize());
+    rest_.remove_prefix(token.size());
+    return token;
+  }
+
+ private:
+  [[nodiscard]] std::size_t stringSize() const {
+    std::size_t i = 1;
+    while (rest_[i] != '"') {
+      i += rest_[i] == '\\' ? 2 : 1;
+    }
+    return i + 1;
+  }
+
+  [[nodiscard]] std::size_t wordSize() const {
+    return std::max<std::size_t>(rest_.find_first_of(endsOfWords), 1);
+  }
+
+  std::string_view rest_;
+};
+
+int depthChange(std::string_view token) {
+  if (token == "{" || token == "[") {
+    return 1;
+  }
+  return token == "}" || token == "]" ? -1 : 0;
+}
+
+}  // namespace
 
 Json parseRequest(const std::string& line) {
   // The parser's own messages repeat the text that it could not read, however long that is.
@@ -12,6 +59,34 @@ Json parseRequest(const std::string& line) {
   } catch (const Json::exception&) {
     throw InputError("The line holds a number that is out of range.");
   }
+}
+
+std::string memberAsWritten(std::string_view line, std::string_view name) {
+  JsonTokens tokens(line);
+  std::string_view token = tokens.next();
+  while (token != "{") {
+    token = tokens.next();  // A byte order mark stood before it.
+  }
+  std::string value;
+  while (token != "}") {
+    token = tokens.next();
+    if (token == "}") {
+      break;
+    }
+    const bool wanted = Json::parse(token).get_ref<const std::string&>() == name;
+    tokens.next();
+    if (wanted) {
+      value.clear();
+    }
+    int depth = 0;
+    do {
+      token = tokens.next();
+      depth += depthChange(token);
+      value += wanted ? token : std::string_view();
+    } while (depth > 0);
+    token = tokens.next();
+  }
+  return value;
 }
 
 const std::string& textMember(const Json& request, std::string_view name) {

@@ -22,6 +22,10 @@ class InputError : public std::runtime_error {
 /// The JSON value that one line holds. Throws InputError.
 Json parseRequest(const std::string& line);
 
+/// The value of that member of a line which holds an object that has it, without white space around
+/// it and in it. Numbers stay as they are written, and nesting takes no stack.
+std::string memberAsWritten(std::string_view line, std::string_view name);
+
 /// The member of that name, which is to be a string. Throws InputError if there is none such, or if
 /// the request is no object.
 const std::string& textMember(const Json& request, std::string_view name);

@@ -58,11 +58,27 @@ class WrongUsage(InspectTest):
         self.assert_wrong_usage(run(), "columns, usages or rename", "--help")
 
     def test_unknown_command(self) -> None:
-        self.assert_wrong_usage(run("explain", "RETURN 1"), "--help")
+        self.assert_wrong_usage(run("explain", "RETURN 1"), "'explain' is no command", "--help")
+        self.assert_wrong_usage(run("--verbose", "explain"), "'explain' is no command")
+        self.assert_wrong_usage(run("--verbose"), "columns, usages or rename")
 
     def test_unknown_option(self) -> None:
         for command in COMMANDS:
-            self.assert_wrong_usage(run(command, "--yaml", "n"), "--yaml", f"{command} --help")
+            result = run(command, "--yaml", "n")
+            self.assert_wrong_usage(result, "unknown option '--yaml'", f"{command} --help")
+            result = run(command, "--yaml", "n", "m", "-q")
+            self.assert_wrong_usage(result, "unknown options '--yaml', '-q'")
+
+    def test_unexpected_arguments(self) -> None:
+        for command in COMMANDS:
+            result = run(*with_map(command), "a", "b", "c", "d")
+            self.assert_wrong_usage(result, "unexpected arguments 'b', 'c', 'd' (", "quotes")
+            result = run(*with_map(command), "a", "--", "-b")
+            self.assert_wrong_usage(result, "unexpected argument '-b' (", "quotes")
+
+    def test_strict_without_json_lines(self) -> None:
+        for command, text in COMMANDS.items():
+            self.assert_wrong_usage(run(*with_map(command), "--strict", text), "--strict", "--jsonl")
 
     def test_no_text(self) -> None:
         for command in COMMANDS:
@@ -88,7 +104,7 @@ class WrongUsage(InspectTest):
 
     def test_json_lines_beside_anything_else(self) -> None:
         for command, text in COMMANDS.items():
-            for others in [[text], ["-"], ["--file", os.devnull], ["--json"]]:
+            for others in [[text], ["-"], ["--json"]]:
                 self.assert_wrong_usage(run(command, "--jsonl", *others), "--jsonl", "leave out")
         self.assert_wrong_usage(run("rename", "--jsonl", "--map", "n=m"), "--jsonl", "leave out")
 
@@ -112,6 +128,7 @@ class UnreadableText(InspectTest):
         try:
             self.assert_wrong_usage(run("columns", "-", stdin=directory), "standard input")
             self.assert_wrong_usage(run("columns", "--jsonl", stdin=directory), "standard input")
+            self.assert_wrong_usage(run("columns", "--jsonl", "--file", "/"), "'/'")
         finally:
             os.close(directory)
 

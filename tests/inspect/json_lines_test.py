@@ -1,7 +1,9 @@
 """Batches: vorn-inspect COMMAND --jsonl"""
 
 import json
+import os
 import subprocess
+import tempfile
 import unittest
 
 from vorn_inspect import ON_WINDOWS, VORN_INSPECT, InspectTest, answer_lines, main, run, run_on_terminal
@@ -65,8 +67,46 @@ class Lines(InspectTest):
 
     def test_may_hold_further_members_however_deep(self) -> None:
         deep = b"[" * 100_000 + b"]" * 100_000
-        (result,) = answer_lines("columns", b'{"id":7,"deep":' + deep + b',"query":"RETURN 1"}')
+        (result,) = answer_lines("columns", b'{"number":7,"deep":' + deep + b',"query":"RETURN 1"}')
         self.assertEqual(result, json.loads(GOOD_ANSWER))
+
+    def test_have_their_id_in_the_answer(self) -> None:
+        for request_id in [
+            "7",
+            "-0.50e+1",
+            "123456789012345678901234567890",
+            "null",
+            "false",
+            '""',
+            '"a \\"\\\\"',
+            '"\\u00e4 ä"',
+            "[]",
+            '{"id":[1,{"b":"c, }"}]}',
+            "[" * 100_000 + "]" * 100_000,
+        ]:
+            for line, expected in [
+                (f'{{"id":{request_id},"query":"RETURN 1"}}', GOOD_ANSWER[1:]),
+                (f' {{ "query" : "RETURN 1" , "id" : {request_id} }} ', GOOD_ANSWER[1:]),
+                (f'{{"a":{{"id":1}},"id":{request_id},"query":"RETURN 1"}}', GOOD_ANSWER[1:]),
+                (f'{{"id":0,"\\u0069d":{request_id},"query":"RETURN 1"}}', GOOD_ANSWER[1:]),
+                (f'\ufeff{{"id":{request_id},"query":"RETURN 1"}}', GOOD_ANSWER[1:]),
+            ]:
+                output = run("columns", "--jsonl", given=line).output
+                self.assertEqual(output, f'{{"id":{request_id},{expected}\n', line[:80])
+
+    def test_have_their_id_without_white_space(self) -> None:
+        output = run("columns", "--jsonl", given='{"id": [ 1 ,\t{"a b" :\r2 } ],"query":"RETURN 1"}').output
+        self.assertEqual(output, '{"id":[1,{"a b":2}],' + GOOD_ANSWER[1:] + "\n")
+
+    def test_have_their_id_in_a_refusal(self) -> None:
+        for command, line in [
+            ("columns", '{"id":"a","query":"MATCH"}'),
+            ("columns", '{"id":"a"}'),
+            ("usages", '{"id":"a","expression":")"}'),
+            ("rename", '{"id":"a","expression":"n"}'),
+        ]:
+            output = run(command, "--jsonl", given=line).output
+            self.assertTrue(output.startswith('{"id":"a",'), output)
 
     def test_may_hold_any_character(self) -> None:
         name = "zero \0 line\nfeed \u2028 quote \" back\\slash \x7f \U0001f9ed \uffff \ufeff é"
@@ -96,8 +136,46 @@ class Lines(InspectTest):
         self.assertEqual((result.status, result.output, result.error), (0, "", ""))
 
     def test_leave_the_status_at_0_whatever_they_say(self) -> None:
-        result = run("columns", "--jsonl", given=b'\n{"query":"MATCH"}\n')
+        self.assertEqual(run("columns", "--jsonl", given=b'\n{"query":"MATCH"}\n').status, 0)
+
+    def test_that_are_refused_are_counted_at_the_end(self) -> None:
+        lines = GOOD + b'\n{"query":"MATCH"}\n\n' + GOOD + b"\n"
+        for options, status in [([], 0), (["--strict"], 1)]:
+            result = run("columns", "--jsonl", *options, given=lines)
+            self.assertEqual(result.error, "vorn-inspect: 2 of 4 requests were refused.\n")
+            self.assertEqual(result.status, status)
+        result = run("columns", "--jsonl", "--strict", given=GOOD)
         self.assertEqual((result.status, result.error), (0, ""))
+
+    def test_may_come_from_a_file(self) -> None:
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "ü.jsonl")
+            with open(path, "wb") as file:
+                file.write(GOOD + b"\nno request\n" + GOOD)
+            result = run("columns", "--jsonl", "--file", path)
+        self.assertEqual(result.output.split("\n")[0::2], [GOOD_ANSWER, GOOD_ANSWER])
+        self.assertEqual(result.error, "vorn-inspect: 1 of 3 requests were refused.\n")
+
+    def test_may_be_too_long_without_a_loss_of_others(self) -> None:
+        with tempfile.TemporaryFile() as file:
+            file.write(GOOD + b'\n{"query":"RETURN \'')
+            # A gigabyte of zeros that takes no space.
+            file.seek(1 << 30, os.SEEK_CUR)
+            file.write(b"'\"}\n" + GOOD + b"\n")
+            file.seek(0)
+            result = run("columns", "--jsonl", stdin=file)
+        self.assertEqual(result.status, 0, result.error)
+        first, refused, last, end = result.output.split("\n")
+        self.assertEqual([first, last, end], [GOOD_ANSWER, GOOD_ANSWER, ""])
+        self.assertEqual(json.loads(refused)["error"]["kind"], "too large")
+
+    def test_are_split_at_line_feeds_however_they_fall_into_pieces(self) -> None:
+        for size in [65533, 65534, 65535, 65536, 65537, 131070, 131071]:
+            line = GOOD + b" " * (size - len(GOOD))
+            result = run("columns", "--jsonl", given=line + b"\n\n" + line)
+            first, refused, last, end = result.output.split("\n")
+            self.assertEqual([first, last, end], [GOOD_ANSWER, GOOD_ANSWER, ""], size)
+            self.assertIn('"input"', refused)
 
     def test_are_answered_one_by_one(self) -> None:
         with subprocess.Popen(
