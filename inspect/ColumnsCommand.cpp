@@ -1,71 +1,53 @@
-#include <vorn/vorn.h>
-
-#include <optional>
-#include <stdexcept>
+#include <cstddef>
+#include <string>
 #include <utility>
-#include <vector>
 
 #include "Command.h"
-#include "Request.h"
 #include "Table.h"
-#include "Utf16.h"
 
 namespace inspect {
 
 namespace {
 
-using Columns = std::vector<std::pair<vorn::WideString, vorn::CypherType>>;
+Analysis ask(const Json& request) {
+  const std::string& query = textMember(request, "query");
+  return Analysis(vorn_columns_utf8(query.data(), query.size()));
+}
 
-const char* nameOf(vorn::CypherType type) {
-  switch (type) {
-    case vorn::CypherType::Node:
+std::string nameOf(const Analysis& analysis, std::size_t column) {
+  return std::string(textOf(analysis, vorn_column_name_utf8, column));
+}
+
+const char* typeOf(const Analysis& analysis, std::size_t column) {
+  switch (vorn_column_type(analysis.get(), column)) {
+    case VORN_NODE:
       return "Node";
-    case vorn::CypherType::Relationship:
+    case VORN_RELATIONSHIP:
       return "Relationship";
-    case vorn::CypherType::Path:
+    case VORN_PATH:
       return "Path";
-    case vorn::CypherType::NodeOrRelationship:
+    case VORN_NODE_OR_RELATIONSHIP:
       return "NodeOrRelationship";
-    case vorn::CypherType::Unknown:
-      break;
+    default:
+      return "Unknown";
   }
-  return "Unknown";
 }
 
-std::optional<Columns> columnsOf(const Json& request) {
-  Columns columns;
-  if (vorn::GetOutputNamesAndTypes(toUtf16(textMember(request, "query")), columns) != 0) {
-    return std::nullopt;
+OrderedJson json(const Analysis& analysis) {
+  OrderedJson columns = OrderedJson::array();
+  for (std::size_t i = 0; i < vorn_column_count(analysis.get()); ++i) {
+    columns.push_back({{"name", nameOf(analysis, i)}, {"type", typeOf(analysis, i)}});
   }
-  return columns;
+  return {{"status", 0}, {"columns", std::move(columns)}};
 }
 
-Answer answer(const Json& request) {
-  const std::optional<Columns> columns = columnsOf(request);
-  OrderedJson json;
-  if (!columns) {
-    json["status"] = 1;
-    return {std::move(json), false};
-  }
-  json["status"] = 0;
-  OrderedJson& list = json["columns"] = OrderedJson::array();
-  for (const auto& [name, type] : *columns) {
-    list.push_back({{"name", toUtf8(name)}, {"type", nameOf(type)}});
-  }
-  return {std::move(json), true};
-}
-
-std::string report(const Json& request) {
-  const std::optional<Columns> columns = columnsOf(request);
-  if (!columns) {
-    throw std::runtime_error("The text is no openCypher query.");
-  }
-  if (columns->empty()) {
+std::string report(const Analysis& analysis) {
+  if (vorn_column_count(analysis.get()) == 0) {
     return "The query returns no columns.\n";
   }
   Table table({"Column", "Type"});
-  for (const auto& [name, type] : *columns) {
-    table.addRow({toUtf8(name), nameOf(type)});
+  for (std::size_t i = 0; i < vorn_column_count(analysis.get()); ++i) {
+    table.addRow({nameOf(analysis, i), typeOf(analysis, i)});
   }
   return table.text();
 }
@@ -78,9 +60,11 @@ const Command columnsCommand = {
     "query",
     "query",
     false,
+    false,
     R"({"query":"MATCH (n) RETURN n"}
     {"status":0,"columns":[{"name":"n","type":"Node"}]})",
-    answer,
+    ask,
+    json,
     report,
 };
 

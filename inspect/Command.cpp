@@ -1,43 +1,79 @@
 #include "Command.h"
 
-#include <exception>
+#include <new>
 
 #include "DisplayText.h"
-#include "Failure.h"
-#include "Request.h"
 
 namespace inspect {
 
-Answer refusal(const Failure& failure) { return {toJson(failure), false}; }
+namespace {
 
-Answer answerTo(const Json& request, const Command& command) {
-  try {
-    return command.answer(request);
-  } catch (const std::exception& exception) {
-    return refusal(failureOf(exception));
-  }
-}
-
-Answer answerToLine(const std::string& line, const Command& command) {
-  try {
-    const Json request = parseRequest(line);
-    Answer answer = answerTo(request, command);
-    if (request.is_object() && request.contains("id")) {
-      answer.id = memberAsWritten(line, "id");
-    }
-    return answer;
-  } catch (const std::exception& exception) {
-    return refusal(failureOf(exception));
-  }
-}
-
-std::string toLine(const Answer& answer) {
+std::string toLine(const OrderedJson& answer, const std::string& id) {
   // Should a message quote bytes that are not UTF-8, they must not stop a batch.
-  std::string json = answer.json.dump(-1, ' ', false, OrderedJson::error_handler_t::replace);
-  if (!answer.id.empty()) {
-    json.insert(1, R"("id":)" + answer.id + ',');
+  std::string json = answer.dump(-1, ' ', false, OrderedJson::error_handler_t::replace);
+  if (!id.empty()) {
+    json.insert(1, R"("id":)" + id + ',');
   }
   return escapeControlsInJson(json) + '\n';
 }
+
+JsonAnswer refusal(const Failure& failure, const std::string& id) {
+  OrderedJson json;
+  json["error"] = toJson(failure);
+  return {toLine(json, id), false};
+}
+
+JsonAnswer failedAnswer(const Failure& failure, const Command& command, const std::string& id) {
+  OrderedJson json;
+  if (!command.takesFilter) {
+    json["status"] = 1;
+  }
+  json["error"] = toJson(failure);
+  return {toLine(json, id), false};
+}
+
+JsonAnswer answerTo(const Json& request, const Command& command, const std::string& id) {
+  try {
+    const Analysis analysis = command.ask(request);
+    const std::string& text = textMember(request, command.textMember);
+    if (const auto failure = failureOf(analysis, text)) {
+      return failedAnswer(*failure, command, id);
+    }
+    OrderedJson json = command.json(analysis);
+    const std::string_view dropped = droppedFrom(text, analysis, command);
+    if (!dropped.empty()) {
+      json["dropped"] = dropped;
+    }
+    return {toLine(json, id), true};
+  } catch (const InputError& error) {
+    return refusal({kinds::input, error.what(), {}}, id);
+  }
+}
+
+}  // namespace
+
+std::string_view droppedFrom(std::string_view text, const Analysis& analysis,
+                             const Command& command) {
+  return command.takesFilter ? text.substr(vorn_expression_end(analysis.get()))
+                             : std::string_view();
+}
+
+JsonAnswer answerTo(const Json& request, const Command& command) {
+  return answerTo(request, command, {});
+}
+
+JsonAnswer answerToLine(const std::string& line, const Command& command) {
+  try {
+    const Json request = parseRequest(line);
+    const bool hasId = request.is_object() && request.contains("id");
+    return answerTo(request, command, hasId ? memberAsWritten(line, "id") : "");
+  } catch (const InputError& error) {
+    return refusal({kinds::input, error.what(), {}});
+  } catch (const std::bad_alloc&) {
+    return refusal({kinds::outOfMemory, "There is no memory for the line or its answer.", {}});
+  }
+}
+
+JsonAnswer refusal(const Failure& failure) { return refusal(failure, {}); }
 
 }  // namespace inspect

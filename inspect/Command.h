@@ -1,17 +1,13 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
+#include "Analysis.h"
 #include "Failure.h"
 #include "Request.h"
 
 namespace inspect {
-
-struct Answer {
-  OrderedJson json;
-  bool analysed;
-  std::string id = {};  ///< the request's, as JSON; empty if it has none
-};
 
 /// One of the library's questions, as it is asked on the command line. A request is a JSON object,
 /// whether it came as such or was put together from arguments.
@@ -20,12 +16,15 @@ struct Command {
   const char* description;
   const char* textMember;  ///< the member of a request that holds the text
   const char* textNoun;    ///< what that text is called
+  bool takesFilter;        ///< or else a query, whose answer has a member "status"
   bool takesRenames;       ///< whether a request has the member "renames"
   const char* example;     ///< a request and its answer
 
-  // Both throw what the library throws, and InputError for a request of another form.
-  Answer (*answer)(const Json& request);
-  std::string (*report)(const Json& request);  ///< for people
+  Analysis (*ask)(const Json& request);  ///< Throws InputError for a request of another form.
+
+  // These take an analysis without an error.
+  OrderedJson (*json)(const Analysis& analysis);
+  std::string (*report)(const Analysis& analysis);  ///< for people
 };
 
 /// Which columns a query returns.
@@ -37,16 +36,21 @@ extern const Command usagesCommand;
 /// What a property filter reads like after some of its variables are renamed.
 extern const Command renameCommand;
 
-/// The command's answer, or the reason why there is none.
-Answer answerTo(const Json& request, const Command& command);
+/// What of the text the answer leaves out.
+std::string_view droppedFrom(std::string_view text, const Analysis& analysis,
+                             const Command& command);
 
-/// The answer that tells why there is no other.
-Answer refusal(const Failure& failure);
+struct JsonAnswer {
+  std::string line;  ///< an object, with a line feed behind it
+  bool analysed;
+};
 
-/// The answer to one line of JSON Lines.
-Answer answerToLine(const std::string& line, const Command& command);
+JsonAnswer answerTo(const Json& request, const Command& command);
 
-/// The answer as JSON in UTF-8, with a line feed after it.
-std::string toLine(const Answer& answer);
+/// The answer to a line of JSON Lines, with the request's id.
+JsonAnswer answerToLine(const std::string& line, const Command& command);
+
+/// The answer to a line that is none.
+JsonAnswer refusal(const Failure& failure);
 
 }  // namespace inspect

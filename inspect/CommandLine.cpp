@@ -7,15 +7,16 @@
 #include <iterator>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Command.h"
 #include "DisplayText.h"
-#include "Failure.h"
+#include "FailureReport.h"
+#include "Hints.h"
 #include "InputOutput.h"
 #include "JsonLines.h"
 #include "RenameArguments.h"
-#include "SyntaxErrorView.h"
 
 namespace inspect {
 
@@ -192,27 +193,46 @@ Json requestOf(const Invocation& invocation) {
 }
 
 int printJson(const Json& request, const Command& command) {
-  const Answer answer = answerTo(request, command);
-  writeOut(toLine(answer));
+  const JsonAnswer answer = answerTo(request, command);
+  writeOut(answer.line);
   return answer.analysed ? analysed : notAnalysed;
 }
 
-void printFailure(const Failure& failure, const std::string& text) {
-  std::cerr << escapeControls(failure.message) << '\n';
-  if (const auto place = placeOfSyntaxError(failure.message)) {
-    std::cerr << syntaxErrorView(text, *place);
+// The beginning of a text, on one line.
+std::string shortened(std::string_view text) {
+  constexpr std::size_t longest = 60;
+  text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
+  const std::vector<std::string_view> clusters = graphemeClusters(text);
+  std::string start;
+  for (std::size_t i = 0; i < std::min(clusters.size(), longest); ++i) {
+    start += escapeControls(clusters[i]);
+  }
+  return clusters.size() > longest ? start + "..." : start;
+}
+
+// A filter that is a file's name has an answer, as n.a has one.
+void printNotes(std::string_view dropped, const std::string& text) {
+  if (!dropped.empty()) {
+    std::cerr << "Note: The end of the filter was dropped: " << shortened(dropped) << '\n';
+  }
+  if (const auto hint = hintForFile(text)) {
+    std::cerr << "Note: " << escapeControls(*hint) << '\n';
   }
 }
 
 int printReport(const Json& request, const Command& command) {
-  std::string report;
-  try {
-    report = command.report(request);
-  } catch (const std::exception& exception) {
-    printFailure(failureOf(exception), request.at(command.textMember));
+  const std::string& text = textMember(request, command.textMember);
+  const Analysis analysis = command.ask(request);
+  if (const auto failure = failureOf(analysis, text)) {
+    std::cerr << failureReport(*failure, text, command, [&](const std::string& other) {
+      Json changed = request;
+      changed[command.textMember] = other;
+      return command.ask(changed);
+    });
     return notAnalysed;
   }
-  writeOut(report);
+  writeOut(command.report(analysis));
+  printNotes(droppedFrom(text, analysis, command), text);
   return analysed;
 }
 

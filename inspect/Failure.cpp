@@ -1,52 +1,60 @@
 #include "Failure.h"
 
-#include <stdexcept>
-#include <typeinfo>
-
-#include "Request.h"
-#include "SyntaxErrorView.h"
+#include "Skeleton.h"
 
 namespace inspect {
 
 namespace {
 
-Failure::Kind kindOf(const std::exception& exception) {
-  if (dynamic_cast<const InputError*>(&exception) != nullptr) {
-    return Failure::Kind::Input;
+std::string_view kindOf(const Analysis& analysis, std::string_view text) {
+  switch (vorn_error_kind(analysis.get())) {
+    case VORN_SYNTAX:
+      return isEmpty(text) ? kinds::empty : kinds::syntax;
+    case VORN_FORBIDDEN:
+      return kinds::forbidden;
+    case VORN_TOO_DEEP:
+      return kinds::tooDeep;
+    case VORN_TOO_LARGE:
+      return kinds::tooLarge;
+    case VORN_NOT_WELL_FORMED:
+      return kinds::notWellFormed;
+    case VORN_OUT_OF_MEMORY:
+      return kinds::outOfMemory;
+    default:
+      return kinds::other;
   }
-  // Types derived from this one, such as std::length_error, mean something else.
-  if (typeid(exception) == typeid(std::logic_error)) {
-    return Failure::Kind::Forbidden;
-  }
-  if (placeOfSyntaxError(exception.what())) {
-    return Failure::Kind::Syntax;
-  }
-  return Failure::Kind::Other;
 }
 
-const char* nameOf(Failure::Kind kind) {
-  switch (kind) {
-    case Failure::Kind::Input:
-      return "input";
-    case Failure::Kind::Syntax:
-      return "syntax";
-    case Failure::Kind::Forbidden:
-      return "forbidden";
-    case Failure::Kind::TooLarge:
-      return "too large";
-    case Failure::Kind::Other:
-      break;
-  }
-  return "other";
+std::optional<Place> placeOf(const Analysis& analysis) {
+  const Place place{vorn_error_line(analysis.get()), vorn_error_column(analysis.get()),
+                    vorn_error_offset(analysis.get())};
+  return place.line == 0 ? std::nullopt : std::optional(place);
 }
 
 }  // namespace
 
-Failure failureOf(const std::exception& exception) { return {kindOf(exception), exception.what()}; }
+std::optional<Failure> failureOf(const Analysis& analysis, std::string_view text) {
+  if (vorn_error_kind(analysis.get()) == VORN_NO_ERROR) {
+    return std::nullopt;
+  }
+  return Failure{kindOf(analysis, text), std::string(textOf(analysis, vorn_error_message_utf8)),
+                 placeOf(analysis)};
+}
+
+std::string wholeMessage(const Failure& failure) {
+  return failure.place ? "line " + std::to_string(failure.place->line) + ":" +
+                             std::to_string(failure.place->column) + " " + failure.message
+                       : failure.message;
+}
 
 OrderedJson toJson(const Failure& failure) {
   OrderedJson error;
-  error["error"] = {{"kind", nameOf(failure.kind)}, {"message", failure.message}};
+  error["kind"] = failure.kind;
+  if (failure.place) {
+    error["line"] = failure.place->line;
+    error["column"] = failure.place->column;
+  }
+  error["message"] = wholeMessage(failure);
   return error;
 }
 

@@ -85,8 +85,8 @@ std::optional<Line> readLine(std::istream& in) {
   return line;
 }
 
-Answer answerTo(const Line& line, const Command& command) {
-  return line.tooLong ? refusal({Failure::Kind::TooLarge, "The line has more than 256 MiB."})
+JsonAnswer answerTo(const Line& line, const Command& command) {
+  return line.tooLong ? refusal({kinds::tooLarge, "The line has more than 256 MiB.", {}})
                       : answerToLine(line.text, command);
 }
 
@@ -98,8 +98,8 @@ std::size_t answerJsonLines(std::istream& in, const std::string& name, const Com
   {
     Progress progress;
     while (const std::optional<Line> line = readLine(in)) {
-      const Answer answer = answerTo(*line, command);
-      writeOut(toLine(answer));
+      const JsonAnswer answer = answerTo(*line, command);
+      writeOut(answer.line);
       progress.lineAnswered();
       ++lines;
       refused += answer.analysed ? 0 : 1;

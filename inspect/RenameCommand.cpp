@@ -1,49 +1,49 @@
-#include <vorn/vorn.h>
-
-#include <unordered_map>
-#include <utility>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "Command.h"
 #include "DisplayText.h"
-#include "Request.h"
 #include "System.h"
-#include "Utf16.h"
 
 namespace inspect {
 
 namespace {
 
-std::unordered_map<vorn::WideString, vorn::WideString> renamesOf(const Json& request) {
+// They refer to the request's strings.
+std::vector<vorn_rename_pair_utf8> renamesOf(const Json& request) {
   const auto member = request.find("renames");
   if (member == request.end() || !member->is_object()) {
     throw InputError("The line is no JSON object with an object \"renames\".");
   }
-  std::unordered_map<vorn::WideString, vorn::WideString> renames;
+  std::vector<vorn_rename_pair_utf8> renames;
   for (const auto& [oldName, newName] : member->items()) {
     if (!newName.is_string()) {
       throw InputError("A new name in \"renames\" is no string.");
     }
-    renames.emplace(toUtf16(oldName), toUtf16(newName.get_ref<const std::string&>()));
+    const std::string& to = newName.get_ref<const std::string&>();
+    renames.push_back({oldName.data(), oldName.size(), to.data(), to.size()});
   }
   return renames;
 }
 
-std::string renamedExpression(const Json& request) {
-  const vorn::WideString expression = toUtf16(textMember(request, "expression"));
-  return toUtf8(
-      vorn::ReplaceVariableNamesInPropertyFilterOCExpression(expression, renamesOf(request)));
+Analysis ask(const Json& request) {
+  const std::string& expression = textMember(request, "expression");
+  const std::vector<vorn_rename_pair_utf8> renames = renamesOf(request);
+  return Analysis(
+      vorn_rename_utf8(expression.data(), expression.size(), renames.data(), renames.size()));
 }
 
-Answer answer(const Json& request) {
-  OrderedJson json;
-  json["expression"] = renamedExpression(request);
-  return {std::move(json), true};
+OrderedJson json(const Analysis& analysis) {
+  OrderedJson answer;
+  answer["expression"] = textOf(analysis, vorn_renamed_utf8);
+  return answer;
 }
 
 // Into a file or another program the text goes as it is.
-std::string report(const Json& request) {
-  const std::string expression = renamedExpression(request);
-  return (outputIsWatched() ? escapeControlsInLines(expression) : expression) + '\n';
+std::string report(const Analysis& analysis) {
+  const std::string_view expression = textOf(analysis, vorn_renamed_utf8);
+  return (outputIsWatched() ? escapeControlsInLines(expression) : std::string(expression)) + '\n';
 }
 
 }  // namespace
@@ -54,9 +54,11 @@ const Command renameCommand = {
     "expression",
     "filter",
     true,
+    true,
     R"({"expression":"n.age > 30","renames":{"n":"m"}}
     {"expression":"`m`.age > 30"})",
-    answer,
+    ask,
+    json,
     report,
 };
 

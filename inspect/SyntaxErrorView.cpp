@@ -1,10 +1,6 @@
 #include "SyntaxErrorView.h"
 
-#include <utf8.h>
-
-#include <charconv>
 #include <iterator>
-#include <system_error>
 
 #include "DisplayText.h"
 
@@ -12,54 +8,26 @@ namespace inspect {
 
 namespace {
 
+constexpr std::size_t npos = std::string_view::npos;
 constexpr std::string_view indent = "  ";
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-bool startsWith(std::string_view text, std::string_view start) {
-  return text.substr(0, start.size()) == start;
-}
-
-bool take(std::string_view& rest, std::string_view expected) {
-  if (!startsWith(rest, expected)) {
-    return false;
-  }
-  rest.remove_prefix(expected.size());
-  return true;
-}
-
-bool takeNumber(std::string_view& rest, std::size_t& number) {
-  const char* const end = std::next(rest.data(), static_cast<std::ptrdiff_t>(rest.size()));
-  const auto [stop, error] = std::from_chars(rest.data(), end, number);
-  if (error != std::errc()) {
-    return false;
-  }
-  rest.remove_prefix(static_cast<std::size_t>(std::distance(rest.data(), stop)));
-  return true;
-}
-
-std::optional<std::string_view> lineOf(std::string_view text, std::size_t number) {
-  for (; number > 1; --number) {
-    const std::size_t lineFeed = text.find('\n');
-    if (lineFeed == std::string_view::npos) {
-      return std::nullopt;
-    }
-    text.remove_prefix(lineFeed + 1);
-  }
+std::string_view lineAround(std::string_view text, std::size_t place) {
+  const std::size_t lineFeed = place == 0 ? npos : text.rfind('\n', place - 1);
+  text.remove_prefix(lineFeed == npos ? 0 : lineFeed + 1);
   return text.substr(0, text.find('\n'));
 }
 
 // A place inside a grapheme cluster is shown under the whole of it.
-std::string_view clustersBefore(std::string_view line, std::size_t column) {
-  std::size_t bytes = 0;
-  std::size_t codePoints = 0;
+std::string_view clustersBefore(std::string_view line, std::size_t place) {
+  std::size_t end = 0;
   for (const std::string_view cluster : graphemeClusters(line)) {
-    codePoints += static_cast<std::size_t>(utf8::distance(cluster.begin(), cluster.end()));
-    if (codePoints > column) {
+    if (end + cluster.size() > place) {
       break;
     }
-    bytes += cluster.size();
+    end += cluster.size();
   }
-  return line.substr(0, bytes);
+  return line.substr(0, end);
 }
 
 // Tabs stay, so that both lines reach the same tab stops; what stands between them is passed on.
@@ -80,28 +48,19 @@ std::string blanksFor(std::string_view text) {
 
 }  // namespace
 
-std::optional<Place> placeOfSyntaxError(std::string_view message) {
-  Place place{};
-  if (take(message, "line ") && takeNumber(message, place.line) && take(message, ":") &&
-      takeNumber(message, place.column) && startsWith(message, " ")) {
-    return place;
+std::string syntaxErrorView(std::string_view text, std::size_t place) {
+  if (text.substr(0, byteOrderMark.size()) == byteOrderMark) {
+    text.remove_prefix(byteOrderMark.size());
+    place -= byteOrderMark.size();
   }
-  return std::nullopt;
-}
-
-std::string syntaxErrorView(std::string_view text, Place place) {
-  // The library strips this mark and counts without it.
-  take(text, byteOrderMark);
-  std::optional<std::string_view> line = lineOf(text, place.line);
-  if (!line) {
-    return {};
-  }
-  const std::string_view before = clustersBefore(*line, place.column);
-  if (!line->empty() && line->back() == '\r' && before.size() < line->size()) {
-    line->remove_suffix(1);
+  std::string_view line = lineAround(text, place);
+  const auto column = place - static_cast<std::size_t>(std::distance(text.begin(), line.begin()));
+  const std::string_view before = clustersBefore(line, column);
+  if (!line.empty() && line.back() == '\r' && before.size() < line.size()) {
+    line.remove_suffix(1);
   }
   std::string view(indent);
-  view += keepingTabs(*line, escapeControls) + '\n';
+  view += keepingTabs(line, escapeControls) + '\n';
   view += indent;
   view += keepingTabs(before, blanksFor) + "^\n";
   return view;

@@ -1,56 +1,78 @@
 #include <utf8.h>
 #include <utf8proc.h>
-#include <vorn/vorn.h>
 
-#include <map>
-#include <set>
+#include <cstddef>
+#include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "Command.h"
-#include "Request.h"
 #include "Table.h"
-#include "Utf16.h"
 
 namespace inspect {
 
 namespace {
 
-using Usages = std::map<vorn::WideString, vorn::VariableUsage>;
+using Names = std::vector<std::string>;
 
-Usages usagesOf(const Json& request) {
-  return vorn::GetVariableUsagesInPropertyFilterOCExpression(
-      toUtf16(textMember(request, "expression")));
+/// What the library says of one access, all names between back quotes.
+struct Access {
+  Names propertyPath;
+  Names labels;
+};
+
+struct Usage {
+  std::string name;
+  Names writtenForms;
+  std::vector<Access> accesses;
+};
+
+Analysis ask(const Json& request) {
+  const std::string& expression = textMember(request, "expression");
+  return Analysis(vorn_usages_utf8(expression.data(), expression.size()));
 }
 
-template <typename Names>
-OrderedJson jsonList(const Names& names) {
-  OrderedJson list = OrderedJson::array();
-  for (const vorn::WideString& name : names) {
-    list.push_back(toUtf8(name));
+template <typename Accessor, typename... Indices>
+Names namesOf(const Analysis& analysis, std::size_t count, Accessor accessor, Indices... indices) {
+  Names names;
+  for (std::size_t i = 0; i < count; ++i) {
+    names.emplace_back(textOf(analysis, accessor, indices..., i));
   }
-  return list;
+  return names;
 }
 
-OrderedJson toJson(const std::set<vorn::VariableAccess>& accesses) {
-  OrderedJson list = OrderedJson::array();
-  for (const vorn::VariableAccess& access : accesses) {
-    list.push_back(
-        {{"propertyPath", jsonList(access.propertyPath)}, {"labels", jsonList(access.labels)}});
+std::vector<Usage> usagesOf(const Analysis& analysis) {
+  const vorn_answer* answer = analysis.get();
+  std::vector<Usage> usages;
+  for (std::size_t i = 0; i < vorn_variable_count(answer); ++i) {
+    Usage& usage = usages.emplace_back();
+    usage.name = textOf(analysis, vorn_variable_name_utf8, i);
+    usage.writtenForms =
+        namesOf(analysis, vorn_written_form_count(answer, i), vorn_written_form_utf8, i);
+    for (std::size_t k = 0; k < vorn_access_count(answer, i); ++k) {
+      usage.accesses.push_back(
+          {namesOf(analysis, vorn_property_count(answer, i, k), vorn_property_utf8, i, k),
+           namesOf(analysis, vorn_label_count(answer, i, k), vorn_label_utf8, i, k)});
+    }
   }
-  return list;
+  return usages;
 }
 
-Answer answer(const Json& request) {
+OrderedJson json(const Analysis& analysis) {
   OrderedJson list = OrderedJson::array();
-  for (const auto& [name, usage] : usagesOf(request)) {
-    list.push_back({{"name", toUtf8(name)},
-                    {"writtenForms", jsonList(usage.writtenForms)},
-                    {"accesses", toJson(usage.accesses)}});
+  for (const Usage& usage : usagesOf(analysis)) {
+    OrderedJson accesses = OrderedJson::array();
+    for (const Access& access : usage.accesses) {
+      accesses.push_back({{"propertyPath", access.propertyPath}, {"labels", access.labels}});
+    }
+    list.push_back({{"name", usage.name},
+                    {"writtenForms", usage.writtenForms},
+                    {"accesses", std::move(accesses)}});
   }
-  OrderedJson json;
-  json["usages"] = std::move(list);
-  return {std::move(json), true};
+  OrderedJson answer;
+  answer["usages"] = std::move(list);
+  return answer;
 }
 
 bool isWordStart(utf8proc_category_t category) {
@@ -76,41 +98,40 @@ bool isPlainWord(std::string_view name) {
 }
 
 // All names come between back quotes, which most of them can do without.
-std::string readable(const vorn::WideString& quotedName) {
-  std::string quoted = toUtf8(quotedName);
+std::string readable(const std::string& quoted) {
   std::string name = quoted.substr(1, quoted.size() - 2);
   return isPlainWord(name) ? name : quoted;
 }
 
-std::string readable(const vorn::WideString& variable, const vorn::VariableAccess& access) {
+std::string readable(const std::string& variable, const Access& access) {
   std::string text = readable(variable);
-  for (const vorn::WideString& key : access.propertyPath) {
+  for (const std::string& key : access.propertyPath) {
     text += '.' + readable(key);
   }
-  for (const vorn::WideString& label : access.labels) {
+  for (const std::string& label : access.labels) {
     text += ':' + readable(label);
   }
   return text;
 }
 
-std::string joined(const std::set<vorn::WideString>& writtenForms) {
+std::string joined(const Names& writtenForms) {
   std::string text;
-  for (const vorn::WideString& form : writtenForms) {
-    text += (text.empty() ? "" : ", ") + toUtf8(form);
+  for (const std::string& form : writtenForms) {
+    text += (text.empty() ? "" : ", ") + form;
   }
   return text;
 }
 
-std::string report(const Json& request) {
-  const Usages usages = usagesOf(request);
+std::string report(const Analysis& analysis) {
+  const std::vector<Usage> usages = usagesOf(analysis);
   if (usages.empty()) {
     return "The filter uses no variables.\n";
   }
   Table table({"Variable", "Written as", "Reads"});
-  for (const auto& [name, usage] : usages) {
-    Table::Row row = {readable(name), joined(usage.writtenForms), ""};
-    for (const vorn::VariableAccess& access : usage.accesses) {
-      row.back() = readable(name, access);
+  for (const Usage& usage : usages) {
+    Table::Row row = {readable(usage.name), joined(usage.writtenForms), ""};
+    for (const Access& access : usage.accesses) {
+      row.back() = readable(usage.name, access);
       table.addRow(row);
       row = {"", "", ""};
     }
@@ -125,10 +146,12 @@ const Command usagesCommand = {
     "Show which variables a property filter uses, and what it reads from each",
     "expression",
     "filter",
+    true,
     false,
     R"({"expression":"n.age > 30"}
     {"usages":[{"name":"`n`","writtenForms":["n"],"accesses":[{"propertyPath":["`age`"],"labels":[]}]}]})",
-    answer,
+    ask,
+    json,
     report,
 };
 

@@ -39,18 +39,31 @@ class Columns(InspectTest):
         self.assertEqual(run("columns", "--json", "CREATE (n)").output, '{"status":0,"columns":[]}\n')
 
     def test_of_something_else_than_a_query(self) -> None:
-        result = run("columns", "MATCH (n")
+        result = run("columns", "MATCH (n)\nRETRUN n")
+        self.assertEqual((result.status, result.output), (1, ""))
         self.assertEqual(
-            (result.status, result.output, result.error), (1, "", "The text is no openCypher query.\n")
+            result.error.split("\n")[:3],
+            ["line 2:0 no viable alternative at input 'MATCH (n)\\nRETRUN'", "  RETRUN n", "  ^"],
         )
-        result = run("columns", "--json", "MATCH (n")
-        self.assertEqual((result.status, result.output), (1, '{"status":1}\n'))
+
+    def test_of_something_else_than_a_query_as_json(self) -> None:
+        result = run("columns", "--json", "MATCH (n)\nRETRUN n")
+        self.assertEqual(
+            (result.status, result.output),
+            (
+                1,
+                '{"status":1,"error":{"kind":"syntax","line":2,"column":0,'
+                '"message":"line 2:0 no viable alternative at input \'MATCH (n)\\\\nRETRUN\'"}}\n',
+            ),
+        )
 
     def test_by_json_lines(self) -> None:
-        self.assertEqual(
-            answer_lines("columns", {"query": "MATCH (n) RETURN n"}, {"query": "MATCH"}, {"query": ""}),
-            [{"status": 0, "columns": [{"name": "n", "type": "Node"}]}, {"status": 1}, {"status": 1}],
+        answers = answer_lines(
+            "columns", {"query": "MATCH (n) RETURN n"}, {"query": "MATCH"}, {"query": ""}
         )
+        self.assertEqual(answers[0], {"status": 0, "columns": [{"name": "n", "type": "Node"}]})
+        self.assertEqual([answer["status"] for answer in answers[1:]], [1, 1])
+        self.assertEqual([answer["error"]["kind"] for answer in answers[1:]], ["syntax", "empty"])
 
     def test_are_the_same_by_json_and_by_json_lines(self) -> None:
         for query in ["MATCH (n) RETURN *", "RETURN 'ü', \"\\u0041\"", "CREATE ()", "CREATE"]:

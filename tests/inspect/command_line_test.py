@@ -238,8 +238,10 @@ class Text(InspectTest):
             self.assertNotEqual(by_input.output, "")
 
     def test_may_be_empty(self) -> None:
-        self.assertEqual(run("columns", "--json", "").output, '{"status":1}\n')
-        self.assertEqual(run("columns", "--json", "--file", os.devnull).output, '{"status":1}\n')
+        for result in [run("columns", "--json", ""), run("columns", "--json", "--file", os.devnull)]:
+            answer_of_nothing = json.loads(result.output)
+            self.assertEqual(answer_of_nothing["status"], 1)
+            self.assertEqual(answer_of_nothing["error"]["kind"], "empty")
 
     def test_may_be_a_megabyte(self) -> None:
         text = "'" + "x" * 1_000_000 + "'"

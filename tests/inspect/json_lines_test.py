@@ -107,6 +107,7 @@ class Lines(InspectTest):
         ]:
             output = run(command, "--jsonl", given=line).output
             self.assertTrue(output.startswith('{"id":"a",'), output)
+            self.assertIn("error", json.loads(output))
 
     def test_may_hold_any_character(self) -> None:
         name = "zero \0 line\nfeed \u2028 quote \" back\\slash \x7f \U0001f9ed \uffff \ufeff é"

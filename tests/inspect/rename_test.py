@@ -59,6 +59,15 @@ class Renaming(InspectTest):
         self.assertEqual((result.status, result.output), (1, ""))
         self.assertTrue(result.error.startswith("line 1:3 "), result.error)
 
+    def test_tells_what_was_dropped(self) -> None:
+        result = run("rename", "--map", "n=m", "n.a RETURN n")
+        self.assertEqual((result.status, result.output), (0, "`m`.a\n"))
+        self.assertEqual(result.error, "Note: The end of the filter was dropped: RETURN n\n")
+        self.assertEqual(
+            run("rename", "--map", "n=m", "--json", "n.a RETURN n").output,
+            '{"expression":"`m`.a","dropped":" RETURN n"}\n',
+        )
+
     def test_does_not_mind_what_usages_forbids(self) -> None:
         result = run("rename", "--map", "n=m", "any(x IN n WHERE x)")
         self.assertEqual(result.output, "any(x IN `m` WHERE x)\n")

@@ -1,5 +1,6 @@
 """Syntax errors for people: the message, the line, and a caret under the place."""
 
+import json
 import re
 
 from vorn_inspect import InspectTest, main, run
@@ -11,6 +12,7 @@ class SyntaxErrors(InspectTest):
         result = run(command, *arguments, "-", given=text)
         self.assertEqual((result.status, result.output), (1, ""))
         message, *view = result.error.removesuffix("\n").split("\n")
+        view = [row for row in view if not row.startswith("Hint: ")]
         self.assertRegex(message, rf"\Aline {re.escape(place)} ")
         self.assertEqual(view, ["  " + line, "  " + caret])
 
@@ -24,7 +26,10 @@ class SyntaxErrors(InspectTest):
     def test_may_be_one_past_the_end(self) -> None:
         self.assert_view("n.age >", "1:7", "n.age >", "       ^")
         self.assert_view("n.age >\n", "2:0", "", "^")
-        self.assert_view("", "1:0", "", "^")
+        self.assert_view("(n", "1:2", "(n", "  ^")
+
+    def test_are_shown_by_columns_too(self) -> None:
+        self.assert_view("MATCH (n)\r\nRETURN n n", "2:9", "RETURN n n", "         ^", "columns")
 
     def test_are_shown_with_their_line_alone(self) -> None:
         self.assert_view("n.a = 1 AND\nn.b = ) AND\nn.c", "2:6", "n.b = ) AND", "      ^")
@@ -58,6 +63,45 @@ class SyntaxErrors(InspectTest):
         text = '"' + "x" * 10_000
         result = run("usages", "-", given=text)
         self.assertIn(text, result.error.split("\n")[0])
+
+    def test_name_few_of_the_tokens_that_are_expected(self) -> None:
+        for command, text, message in [
+            ("columns", "SELECT 1", "line 1:0 extraneous input 'SELECT' expecting a clause such as MATCH or RETURN"),
+            ("columns", "RETURN 1,", "line 1:9 mismatched input '<EOF>' expecting an expression"),
+            ("columns", "RETURN (1)(", "line 1:10 extraneous input '(' expecting the end, ';' or white space"),
+            ("columns", "RETURN 1 LIMIT", "line 1:14 mismatched input '<EOF>' expecting white space"),
+            ("columns", "RETURN 1 LIMIT(1)", "line 1:14 missing white space at '('"),
+            ("usages", "' expecting {a}' = )", "line 1:19 mismatched input ')' expecting an expression"),
+        ]:
+            self.assertEqual(run(command, text).error.split("\n")[0], message)
+
+    def test_name_all_of_them_in_json(self) -> None:
+        for command, text in [("columns", "RETURN 1,"), ("usages", "n = )")]:
+            message = json.loads(run(command, "--json", text).output)["error"]["message"]
+            self.assertIn("HexInteger, DecimalInteger, OctalInteger, HexLetter", message)
+
+
+class OtherRefusals(InspectTest):
+    def test_of_empty_texts_say_so(self) -> None:
+        for text in ["", " \n", "/* a */", "// RETURN 1", "\ufeff\u3000", "/****/"]:
+            self.assertEqual(run("columns", "-", given=text).error, "The query is empty.\n")
+            self.assertEqual(run("usages", "-", given=text).error, "The filter is empty.\n")
+            error = json.loads(run("usages", "--json", "-", given=text).output)["error"]
+            self.assertEqual((error["kind"], error["line"]), ("empty", 1))
+
+    def test_of_texts_that_are_not_empty_do_not(self) -> None:
+        for text in ["/***/", "\x1b", "a", "''", "/*", "\u200b"]:
+            error = json.loads(run("columns", "--json", "-", given=text).output)["error"]
+            self.assertEqual(error["kind"], "syntax", text)
+
+    def test_of_texts_that_nest_too_deeply_say_so(self) -> None:
+        for command, text in [("columns", "RETURN " + "(" * 200_000), ("usages", "(" * 200_000)]:
+            result = run(command, "-", given=text)
+            self.assertEqual((result.status, result.output), (1, ""))
+            self.assertRegex(result.error, r"\A[^\n]*nests too deeply[^\n]*\n\Z")
+            error = json.loads(run(command, "--json", "-", given=text).output)["error"]
+            self.assertEqual(list(error), ["kind", "message"])
+            self.assertEqual(error["kind"], "too deep")
 
 
 if __name__ == "__main__":

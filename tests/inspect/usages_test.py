@@ -75,14 +75,14 @@ class Usages(InspectTest):
     def test_of_a_text_that_nests_too_deeply_fail_in_a_kind_of_its_own(self) -> None:
         shallow, deep = answer_lines("usages", {"expression": "(n)"}, {"expression": "(" * 200_000})
         self.assertEqual(len(shallow["usages"]), 1)
-        self.assertEqual(deep["error"]["kind"], "other")
+        self.assertEqual(deep["error"]["kind"], "too deep")
 
     def test_of_a_syntax_error_as_json(self) -> None:
         result = run("usages", "--json", "n.age\n> )")
         self.assertEqual(result.status, 1)
         error = json.loads(result.output)["error"]
-        self.assertEqual(list(error), ["kind", "message"])
-        self.assertEqual(error["kind"], "syntax")
+        self.assertEqual(list(error), ["kind", "line", "column", "message"])
+        self.assertEqual((error["kind"], error["line"], error["column"]), ("syntax", 2, 2))
         self.assertTrue(error["message"].startswith("line 2:2 "), error["message"])
 
     def test_by_json_lines(self) -> None:
@@ -98,6 +98,28 @@ class Usages(InspectTest):
         self.assertEqual(answers[1]["error"]["kind"], "syntax")
         self.assertEqual(answers[2], {"error": {"kind": "forbidden", "message": FORBIDDEN}})
         self.assertEqual(answers[3], {"usages": []})
+
+    def test_tell_what_was_dropped(self) -> None:
+        for text, dropped in [("n.a = 1 RETURN n", "RETURN n"), ("n.a)", ")"), ("n)'\x1b'", ")'\\u001b'")]:
+            result = run("usages", text)
+            self.assertEqual(result.status, 0)
+            self.assertIn("n ", result.output)
+            self.assertEqual(result.error, f"Note: The end of the filter was dropped: {dropped}\n")
+        self.assertEqual(
+            run("usages", "--json", "1 RETURN n").output, '{"usages":[],"dropped":" RETURN n"}\n'
+        )
+        self.assertEqual(answer_lines("usages", {"expression": "\ufeff1é)"})[0]["dropped"], "é)")
+
+    def test_show_the_beginning_of_what_was_dropped(self) -> None:
+        result = run("usages", "-", given="n )\n" + "é" * 100)
+        self.assertEqual(
+            result.error, r"Note: The end of the filter was dropped: )\n" + "é" * 58 + "...\n"
+        )
+
+    def test_tell_nothing_of_white_space_and_comments_at_the_end(self) -> None:
+        for text in ["n.a ", "n.a\n\n", "n.a /* b */ // c"]:
+            self.assertEqual(run("usages", text).error, "")
+            self.assertEqual(list(answer("usages", "--json", text)), ["usages"])
 
 
 if __name__ == "__main__":

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <vorn/vorn_c.h>
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+namespace inspect {
+
+struct AnalysisRelease {
+  void operator()(vorn_answer* answer) const { vorn_release(answer); }
+};
+
+/// What the library answers to one question.
+using Analysis = std::unique_ptr<vorn_answer, AnalysisRelease>;
+
+/// What an accessor of the library, such as vorn_column_name_utf8, finds at these indices. It is
+/// the analysis's.
+template <typename Accessor, typename... Indices>
+std::string_view textOf(const Analysis& analysis, Accessor accessor, Indices... indices) {
+  std::size_t length = 0;
+  const char* const first = accessor(analysis.get(), indices..., &length);
+  return {first, length};
+}
+
+}  // namespace inspect
