@@ -68,8 +68,9 @@ template <typename Escape>
 std::string withEscapes(std::string_view text, const Escape& escapeOne) {
   std::string shown;
   shown.reserve(text.size());
-  for (auto at = text.begin(); at != text.end();) {
-    for (const auto invalid = utf8::find_invalid(at, text.end()); at != invalid;) {
+  for (std::string_view::const_iterator at = text.begin(); at != text.end();) {
+    for (const std::string_view::const_iterator invalid = utf8::find_invalid(at, text.end());
+         at != invalid;) {
       const char32_t character = utf8::next(at, invalid);
       if (needsEscape(character)) {
         shown += escapeOne(character);

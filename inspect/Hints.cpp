@@ -223,23 +223,31 @@ class Refused {
   [[nodiscard]] bool helps(Range range, std::string_view replacement) const {
     const std::string changed =
         text_.substr(0, range.start) + std::string(replacement) + text_.substr(range.end);
-    const Analysis analysis = ask_(changed);
-    if (vorn_error_kind(analysis.get()) != VORN_SYNTAX) {
-      return isAnswered(analysis);
-    }
     const std::size_t samePlace = offset_ < range.end
                                       ? std::max(offset_, range.start + replacement.size())
                                       : offset_ - (range.end - range.start) + replacement.size();
-    return vorn_error_line(analysis.get()) != 0 && vorn_error_offset(analysis.get()) > samePlace;
+    return isAnsweredBeyond(samePlace, changed);
   }
 
   [[nodiscard]] bool helps(Range range, const Rule& rule) const {
     return helps(range, rule.replacement);
   }
 
-  static bool isAnswered(const Analysis& analysis) {
-    const std::int32_t kind = vorn_error_kind(analysis.get());
-    return kind == VORN_NO_ERROR || kind == VORN_FORBIDDEN;
+  // Of a filter more has to be read, and not only more to be dropped.
+  [[nodiscard]] bool isAnsweredBeyond(std::size_t place, const std::string& changed) const {
+    const Analysis analysis = ask_(changed);
+    switch (vorn_error_kind(analysis.get())) {
+      case VORN_NO_ERROR: {
+        const std::size_t end = vorn_expression_end(analysis.get());
+        return end == 0 || end == changed.size() || end > place;
+      }
+      case VORN_FORBIDDEN:
+        return true;
+      case VORN_SYNTAX:
+        return vorn_error_line(analysis.get()) != 0 && vorn_error_offset(analysis.get()) > place;
+      default:
+        return false;
+    }
   }
 
   [[nodiscard]] std::string hintOf(const Rule& rule, Range range) const {
@@ -285,7 +293,7 @@ class Refused {
   [[nodiscard]] std::optional<std::string> reservedWord() const {
     const Range here = wordAround(skeleton_, offset_);
     const std::string word(partOf(text_, here));
-    if (word.empty() || partOf(skeleton_, here) != word) {
+    if (here.start != offset_ || word.empty() || partOf(skeleton_, here) != word) {
       return std::nullopt;
     }
     std::string changed;
@@ -299,7 +307,7 @@ class Refused {
       }
     }
     changed += text_.substr(done);
-    if (!isAnswered(ask_(changed))) {
+    if (!isAnsweredBeyond(changed.size(), changed)) {
       return std::nullopt;
     }
     return word + " is a reserved word; as a name it stands between back quotes: `" + word + "`.";

@@ -1,7 +1,10 @@
 #include "Request.h"
 
+#include <utf8.h>
+
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 namespace inspect {
 
@@ -54,8 +57,11 @@ Json parseRequest(const std::string& line) {
   try {
     return Json::parse(line);
   } catch (const Json::parse_error& error) {
-    throw InputError("The line is no JSON text in UTF-8: see byte " + std::to_string(error.byte) +
-                     ".");
+    const auto invalid = utf8::find_invalid(line.begin(), line.end());
+    const auto valid = static_cast<std::size_t>(std::distance(line.begin(), invalid));
+    throw InputError(valid < line.size()
+                         ? "The line is not UTF-8: see byte " + std::to_string(valid + 1) + "."
+                         : "The line is no JSON: see byte " + std::to_string(error.byte) + ".");
   } catch (const Json::exception&) {
     throw InputError("The line holds a number that is out of range.");
   }

@@ -88,7 +88,7 @@ class Drawing {
 
   void drawCharacter() {
     const std::string_view rest = text_.substr(at());
-    const auto* next = rest.begin();
+    std::string_view::const_iterator next = rest.begin();
     const char32_t character = utf8::next(next, rest.end());
     const bool ascii = character < U'\u0080' && !isWhiteSpace(character);
     // Control characters could be taken for marks.

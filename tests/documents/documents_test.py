@@ -212,7 +212,7 @@ class Prose(unittest.TestCase):
 def answers(command: str, requests: list[dict[str, Any]]) -> list[dict[str, Any]]:
     lines = "".join(json.dumps(request) + "\n" for request in requests)
     result = subprocess.run(
-        [INSPECT, command, "--jsonl"], input=lines.encode(), stdout=subprocess.PIPE, check=True
+        [INSPECT, command, "--jsonl"], input=lines.encode(), capture_output=True, check=True
     )
     return [json.loads(line) for line in result.stdout.decode().splitlines()]
 

@@ -109,6 +109,10 @@ class Hints(InspectTest):
             with self.subTest(text):
                 self.assertEqual(len(hints("columns", text)), 1)
 
+    def test_are_not_given_for_what_would_only_be_dropped(self) -> None:
+        for text in ["n.a = 1 AND", "n.a = 1 OR", "n.a IN"]:
+            self.assertEqual(hints("usages", text), [])
+
     def test_are_one_for_each_command(self) -> None:
         result = run("rename", "--map", "n=m", "n.a == 1")
         self.assertEqual(result.error.count("Hint: Equality"), 1)

@@ -59,6 +59,13 @@ class Lines(InspectTest):
             self.assertEqual([answers[0], answers[2]], [json.loads(GOOD_ANSWER)] * 2)
             self.assert_input_error(answers[1])
 
+    def test_that_are_not_utf_8_are_told_from_those_that_are_no_json(self) -> None:
+        answers = answer_lines("columns", b'{"query":"RETURN \xff"}', b'{"query":"RETURN"')
+        self.assertEqual(
+            [answer["error"]["message"] for answer in answers],
+            ["The line is not UTF-8: see byte 18.", "The line is no JSON: see byte 18."],
+        )
+
     def test_of_the_other_commands_may_be_no_requests_either(self) -> None:
         for command in ["usages", "rename"]:
             for line in [b"", b"{}", b'{"query":"n"}', b'{"expression":1,"renames":{}}']:
