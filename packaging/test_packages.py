@@ -87,7 +87,7 @@ class Packages(unittest.TestCase):
         run("dpkg-deb", "-x", package, self.folder / "unpacked")
         manual = self.folder / "unpacked/usr/share/man/man1/vorn-inspect.1.gz"
         shown = run("man", "--warnings", "-l", manual)
-        for option in ["--file", "--map", "--json", "--jsonl", "--help", "--version"]:
+        for option in ["--file", "--map", "--json", "--jsonl", "--strict", "--help", "--version"]:
             self.assertIn(option, shown)
         self.assertNotIn("warning", shown)
 
@@ -97,6 +97,7 @@ class Packages(unittest.TestCase):
             ("us", "usages"),
             ("columns --f", "--file"),
             ("rename --m", "--map"),
+            ("columns --s", "--strict"),
             ("columns --m", ""),
         ]:
             line = f"vorn-inspect {words}"
