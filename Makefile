@@ -157,12 +157,12 @@ check-other-runtimes: setup ## build with an installed ANTLR runtime, compare wh
 
 check-abi: setup $(BUILD)/build.ninja ## fail if hosts built with this version would meet another ABI
 	@tools/install-packages.sh abi
-	@cmake --build --preset release --target vorn_abi
+	@cmake --build --preset release --target vorn_abi vorn_c_abi
 	@tools/check-abi.sh $(BUILD)
 
 announce-abi: setup $(BUILD)/build.ninja ## take the ABI of now for the announced one
 	@tools/install-packages.sh abi
-	@cmake --build --preset release --target vorn_abi
+	@cmake --build --preset release --target vorn_abi vorn_c_abi
 	@tools/check-abi.sh $(BUILD) --write
 
 package-deb: setup ## build Debian packages in build/packages, use them in a new system

@@ -1,7 +1,7 @@
 #!/bin/sh
-# Compares what the library exports, and the layout of its public types, with what was announced.
+# Compares what the libraries export, and the layout of their public types, with what was announced.
 #
-#   tools/check-abi.sh BUILD_FOLDER            fail if they differ from abi/ARCHITECTURE.abi
+#   tools/check-abi.sh BUILD_FOLDER            fail if they differ from abi/*ARCHITECTURE.abi
 #   tools/check-abi.sh BUILD_FOLDER --write    announce them
 set -eu
 
@@ -11,24 +11,34 @@ fail() {
 }
 
 [ $# -ge 1 ] || fail "name a build folder."
-library=$1/abi/libvorn_abi.so
+build=$1
+mode=${2-}
 root=$(cd "$(dirname "$0")/.." && pwd)
-announced=$root/abi/$(uname -m).abi
 
 command -v abidw >/dev/null || fail "abidw is missing; tools/install-packages.sh abi installs it."
-[ -f "$library" ] || fail "$library is missing; make check-abi builds it."
 
 now=$(mktemp)
 trap 'rm -f "$now"' EXIT
 trap 'exit 1' HUP INT TERM
-abidw --headers-dir "$root/include" --drop-private-types --load-all-types --drop-undefined-syms --no-corpus-path \
-    --no-comp-dir-path --no-show-locs --no-elf-needed --type-id-style hash "$library" >"$now"
 
-if [ "${2-}" = --write ]; then
-    mkdir -p "$root/abi"
-    cat "$now" >"$announced"
-else
-    [ -f "$announced" ] || fail "$announced is missing; write it with --write."
-    abidiff --non-reachable-types --no-show-locs "$announced" "$now" ||
-        fail "this is another ABI than announced. Raise VORN_VERSION_MAJOR if hosts must be rebuilt, then run make announce-abi."
-fi
+# LIBRARY HEADERS ANNOUNCED WHAT_ELSE_IS_READ WHAT_ELSE_IS_COMPARED
+check() {
+    library=$build/abi/$1
+    announced=$root/abi/$3
+    [ -f "$library" ] || fail "$library is missing; make check-abi builds it."
+    # shellcheck disable=SC2086 # one option or none
+    abidw --headers-dir "$root/$2" --drop-private-types $4 --drop-undefined-syms --no-corpus-path \
+        --no-comp-dir-path --no-show-locs --no-elf-needed --type-id-style hash "$library" >"$now"
+    if [ "$mode" = --write ]; then
+        cat "$now" >"$announced"
+    else
+        [ -f "$announced" ] || fail "$announced is missing; write it with --write."
+        # shellcheck disable=SC2086 # one option or none
+        abidiff $5 --no-show-locs "$announced" "$now" ||
+            fail "this is another ABI than announced. Raise VORN_VERSION_MAJOR if hosts must be rebuilt, then run make announce-abi."
+    fi
+}
+
+check libvorn_abi.so include "$(uname -m).abi" --load-all-types --non-reachable-types
+# The numbers of its enumerators, which no function names by their types, are tested.
+check libvorn_c_abi.so bindings/c/include "vorn_c-$(uname -m).abi" "" ""

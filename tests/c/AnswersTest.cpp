@@ -23,6 +23,15 @@ class CInterface : public testing::TestWithParam<Encoding> {
 INSTANTIATE_TEST_SUITE_P(In, CInterface, testing::Values(Encoding::Utf8, Encoding::Utf16),
                          testing::PrintToStringParamName());
 
+// Hosts in other languages have no header that they could be built with anew.
+TEST(CNumbers, AreKept) {
+  static_assert(VORN_NO_ERROR == 0 && VORN_SYNTAX == 1 && VORN_FORBIDDEN == 2 &&
+                VORN_TOO_DEEP == 3 && VORN_NOT_WELL_FORMED == 4 && VORN_OUT_OF_MEMORY == 5 &&
+                VORN_TOO_LARGE == 6 && VORN_BAD_ARGUMENT == 7);
+  static_assert(VORN_UNKNOWN == 0 && VORN_NODE == 4 && VORN_RELATIONSHIP == 5 && VORN_PATH == 6 &&
+                VORN_NODE_OR_RELATIONSHIP == 9);
+}
+
 TEST_P(CInterface, NamesColumnsAndTheirTypesInTheirOrder) {
   const Told told = columns("MATCH p = (n)-[`größe 😀`]-() RETURN p, n, `größe 😀`, n.a + 1");
   EXPECT_EQ(told.error, VORN_NO_ERROR);

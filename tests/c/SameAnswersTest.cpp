@@ -156,7 +156,7 @@ TEST(SameAnswers, ToQuestionsOfAllKinds) {
 TEST(SameAnswers, ToRandomTexts) {
   RandomTexts texts(20261122);
   int wrong = 0;
-  for (int i = 0; i < 4000; ++i) {
+  for (int i = 0; i < 2000; ++i) {
     const Question question = randomQuestion(texts);
     expectSameAnswers(question);
     if (HasFatalFailure()) {
@@ -164,7 +164,7 @@ TEST(SameAnswers, ToRandomTexts) {
     }
     wrong += ask(Encoding::Utf8, kindOf(question.kind), narrow(question.text)).error == VORN_SYNTAX;
   }
-  EXPECT_GT(wrong, 500);
+  EXPECT_GT(wrong, 300);
 }
 
 }  // namespace
