@@ -131,6 +131,7 @@ if __name__ == "__main__":
     store(output / "columns", queries)
     store(output / "usages", filters)
     store(output / "parser", queries + filters)
+    store(output / "c_interface", queries + filters)
     names = [SEPARATOR + SEPARATOR.join(RENAMINGS[i % len(RENAMINGS)]) for i in range(len(filters))]
     store(output / "renaming", [one + other for one, other in zip(filters, names)])
     for target, size in (("grammar", 200), ("strings", 80)):

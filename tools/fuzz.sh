@@ -15,7 +15,7 @@ fail() {
 build=$1
 seconds=$2
 shift 2
-[ $# -gt 0 ] || set -- columns usages renaming strings grammar parser
+[ $# -gt 0 ] || set -- columns usages renaming c_interface strings grammar parser
 past=$(cd "$(dirname "$0")/.." && pwd)/fuzz/findings
 log=$build/fuzz.log
 
@@ -32,5 +32,5 @@ for target in "$@"; do
         -artifact_prefix="$build/findings/$target-" \
         "$corpus" "$build/fuzz/seeds/$target" "$past/$target" >"$log" 2>&1 ||
         fail "$target found something: $(grep -m 1 -E 'Does not hold|ERROR|runtime error' "$log"); see $log, fix it and keep the input in fuzz/findings/$target."
-    printf '%-9s %s\n' "$target" "$(grep '^Done' "$log")"
+    printf '%-11s %s\n' "$target" "$(grep '^Done' "$log")"
 done
