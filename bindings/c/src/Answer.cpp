@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
+#include <string_view>
 #include <utility>
 
 #include "antlr/NeverDestroyed.h"
@@ -13,23 +14,26 @@ namespace vorn {
 
 namespace {
 
-template <typename Unit, std::size_t size>
-constexpr std::array<Unit, size> unitsOf(const char (&ascii)[size]) {
-  std::array<Unit, size> units{};
-  for (std::size_t i = 0; i != size; ++i) {
-    units[i] = static_cast<Unit>(ascii[i]);
+constexpr std::string_view message = "memory ran out";
+
+// With a zero behind them.
+template <typename Unit>
+constexpr auto messageUnits() {
+  std::array<Unit, message.size() + 1> units{};
+  for (std::size_t i = 0; i != message.size(); ++i) {
+    units.at(i) = static_cast<Unit>(static_cast<unsigned char>(message[i]));
   }
   return units;
 }
 
 template <typename Unit>
-constexpr auto memoryRanOut = unitsOf<Unit>("memory ran out");
+constexpr auto memoryRanOut = messageUnits<Unit>();
 
 template <typename Unit>
 struct OutOfMemory : vorn_answer {
   OutOfMemory() {
     error.kind = VORN_OUT_OF_MEMORY;
-    error.message = Units<Unit>{memoryRanOut<Unit>.data(), memoryRanOut<Unit>.size() - 1};
+    error.message = Units<Unit>{memoryRanOut<Unit>.data(), message.size()};
     error.element = nothing<Unit>;
   }
 };

@@ -1,6 +1,7 @@
 #ifndef VORN_VORN_C_H
 #define VORN_VORN_C_H
 
+/* NOLINTBEGIN(modernize-deprecated-headers,modernize-use-using): this is C. */
 #include <stddef.h>
 #include <stdint.h>
 
@@ -343,5 +344,6 @@ VORN_C_API const char* vorn_version(void);
 }
 #endif
 /** @endcond */
+/* NOLINTEND(modernize-deprecated-headers,modernize-use-using) */
 
 #endif
