@@ -39,10 +39,15 @@ def string(word: str, encoding: str) -> str:
     return text[:-1]
 
 
-def as_json(kind: str, answer: "list[list[str]]", encoding: str) -> object:
-    """The answer as vorn-inspect puts it; None for an error."""
-    if answer[0][1] != "0":
-        return None
+def as_json(kind: str, text: str, answer: "list[list[str]]", encoding: str) -> object:
+    """The answer as vorn-inspect puts it; for an error, its place and message."""
+    error, line, column, _, end = (int(word) for word in answer[0][1:6])
+    if error != 0:
+        message = string(answer[0][answer[0].index("message") + 1], encoding)
+        return {"line": line, "column": column, "message": f"line {line}:{column} {message}"} if line else {"message": message}
+    codec, size = {"utf8": ("utf-8", 1), "utf16": ("utf-16-le", 2)}[encoding]
+    behind = text.encode(codec)[end * size :].decode(codec)
+    dropped = {"dropped": behind} if behind and kind != "columns" else {}
     found: "list[dict]" = []
     for line in answer[1:]:
         value = string(line[-1], encoding) if len(line) > 1 else ""
@@ -57,8 +62,12 @@ def as_json(kind: str, answer: "list[list[str]]", encoding: str) -> object:
         elif line[0] in ("property", "label"):
             found[-1]["accesses"][-1]["propertyPath" if line[0] == "property" else "labels"].append(value)
         elif line[0] == "renamed":
-            return {"expression": value}
-    return {"status": 0, "columns": found} if kind == "columns" else {"usages": found}
+            return {"expression": value, **dropped}
+    return {"status": 0, "columns": found} if kind == "columns" else {"usages": found, **dropped}
+
+
+def place_and_message(error: dict) -> dict:
+    return {key: value for key, value in error.items() if key != "kind"}
 
 
 class Host(unittest.TestCase):
@@ -70,10 +79,10 @@ class Host(unittest.TestCase):
             requests = "".join(json.dumps({key: text, **renames}) + "\n" for text in TEXTS)
             lines = output_of(VORN_INSPECT, kind, "--jsonl", given=requests.encode()).split("\n")[:-1]
             expected = [json.loads(line) for line in lines]
-            answers = [None if "error" in line or line.get("status") == 1 else line for line in expected]
-            self.assertIn(None, answers)
+            answers = [place_and_message(line["error"]) if "error" in line else line for line in expected]
+            self.assertTrue(any("message" in answer for answer in answers))
             for encoding in ["utf8", "utf16"]:
-                told = [as_json(kind, answer, encoding) for answer in told_by_host(kind, encoding)]
+                told = [as_json(kind, text, answer, encoding) for text, answer in zip(TEXTS, told_by_host(kind, encoding))]
                 self.assertEqual(told, answers)
 
 
