@@ -127,6 +127,9 @@ std::string adviceOnUnexpected(const std::vector<std::string>& unexpected,
 
 std::string adviceOn(const CLI::ParseError& error, const CLI::App& program,
                      const std::vector<std::string>& arguments) {
+  if (!program.get_subcommands().empty() && beginsWithDash(arguments[1])) {
+    return "put the option '" + arguments[1] + "' behind the command";
+  }
   const std::vector<std::string> unexpected = program.remaining(true);
   if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
     return adviceOnCommand(unexpected);

@@ -91,29 +91,14 @@ constexpr std::array rules{
     Rule{R"(()$)", " RETURN 1", "A query that only reads ends in RETURN."},
 };
 
-constexpr std::array<std::string_view, 46> keywords{"ALL",          "AND",
-                                                    "AS",           "ASC",
-                                                    "BY",           "CALL",
-                                                    "CASE",         "CONTAINS",
-                                                    "CREATE",       "DELETE",
-                                                    "DESC",         "DETACH",
-                                                    "DISTINCT",     "ELSE",
-                                                    "END",          "ENDS",
-                                                    "EXISTS",       "FALSE",
-                                                    "IN",           "IS",
-                                                    "LIMIT",        "MATCH",
-                                                    "MERGE",        "NOT",
-                                                    "NULL",         "ON",
-                                                    "OPTIONAL",     "OR",
-                                                    "ORDER",        "REMOVE",
-                                                    "RETURN",       "SET",
-                                                    "SKIP",         "STARTS",
-                                                    "THEN",         "TRUE",
-                                                    "UNION",        "UNIQUE",
-                                                    "UNWIND",       "WHEN",
-                                                    "WHERE",        "WITH",
-                                                    "XOR",          "YIELD",
-                                                    "SHORTESTPATH", "ALLSHORTESTPATHS"};
+// clang-format off
+constexpr std::array<std::string_view, 46> keywords{
+    "ALL", "AND", "AS", "ASC", "BY", "CALL", "CASE", "CONTAINS", "CREATE", "DELETE", "DESC",
+    "DETACH", "DISTINCT", "ELSE", "END", "ENDS", "EXISTS", "FALSE", "IN", "IS", "LIMIT", "MATCH",
+    "MERGE", "NOT", "NULL", "ON", "OPTIONAL", "OR", "ORDER", "REMOVE", "RETURN", "SET", "SKIP",
+    "STARTS", "THEN", "TRUE", "UNION", "UNIQUE", "UNWIND", "WHEN", "WHERE", "WITH", "XOR",
+    "YIELD", "SHORTESTPATH", "ALLSHORTESTPATHS"};
+// clang-format on
 
 bool isWordPart(char character) {
   return character == '_' || std::isalnum(static_cast<unsigned char>(character)) != 0;

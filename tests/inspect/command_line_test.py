@@ -69,6 +69,10 @@ class WrongUsage(InspectTest):
             result = run(command, "--yaml", "n", "m", "-q")
             self.assert_wrong_usage(result, "unknown options '--yaml', '-q'")
 
+    def test_an_option_before_the_command(self) -> None:
+        for command, text in COMMANDS.items():
+            self.assert_wrong_usage(run("--json", command, text), "'--json' behind the command")
+
     def test_unexpected_arguments(self) -> None:
         for command in COMMANDS:
             result = run(*with_map(command), "a", "b", "c", "d")
