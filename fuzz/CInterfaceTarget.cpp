@@ -1,3 +1,4 @@
+#include <array>
 #include <vector>
 
 #include "Input.h"
@@ -81,9 +82,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   requireSame(toldBy(vorn_usages_utf8(text.data(), size), size, false),
               toldBy(vorn_usages_utf16(units.data(), units.size()), units.size(), true));
   const std::size_t half = size / 2;
-  const vorn_rename_pair_utf8 pairs[] = {{"n", 1, text.data(), half},
-                                         {text.data(), half, text.data() + half, size - half}};
-  vorn_answer* const renamed = vorn_rename_utf8(text.data(), size, pairs, 2);
+  const std::array<vorn_rename_pair_utf8, 2> pairs = {
+      {{"n", 1, text.data(), half}, {text.data(), half, text.data() + half, size - half}}};
+  vorn_answer* const renamed = vorn_rename_utf8(text.data(), size, pairs.data(), pairs.size());
   if (vorn_error_kind(renamed) == VORN_NO_ERROR) {
     std::size_t length = 0;
     const char* const result = vorn_renamed_utf8(renamed, &length);
