@@ -25,9 +25,7 @@ $(BUILD)/build.ninja: | setup
 build: setup $(BUILD)/build.ninja ## build the libraries and vorn-inspect
 	@cmake --build --preset release --target VornLib vorn_c vorn-inspect
 
-release: setup ## build the library for packages, optimised as a whole by a profile, in build/optimized
-	@tools/install-packages.sh bench
-	@tools/build-optimised.sh
+release: build ## the same, with the optimisation of packages (-O2)
 
 run: build ## print the answers for the sample queries and filters
 	@examples/show-samples.sh $(BUILD)/vorn-inspect
@@ -99,17 +97,14 @@ fuzz: setup $(FUZZ)/build.ninja ## run each fuzzer for SECONDS=60
 	@cmake --build --preset fuzz --target vorn_fuzzers
 	@tools/fuzz.sh $(FUZZ) $(SECONDS)
 
-package-windows: build windows ## optimise and test the library for Windows and make a zip of it
-	@tools/build-optimised.sh windows-optimized
-	@cmake --build build/windows-optimized
-	@WINEPATH="$(CURDIR)/build/windows-optimized;$(CURDIR)/$(WINDOWS_BUILD)" tools/test-under-wine.sh
-	@tools/package-windows.sh build/windows-optimized
+package-windows: windows-test ## test the build for Windows and make a zip of it
+	@tools/package-windows.sh
 
 $(BENCH)/build.ninja: | setup
 	@tools/install-packages.sh bench
 	@cmake --preset bench >/dev/null
 
-bench-build: setup $(BENCH)/build.ninja ## build the programs that measure, and a plain library
+bench-build: setup $(BENCH)/build.ninja ## build the library and the programs that measure it
 	@cmake --build --preset bench
 
 bench: bench-build ## print the times of all functions beside the bare pipeline

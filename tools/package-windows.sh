@@ -1,13 +1,13 @@
 #!/bin/sh
 # Makes of the Windows build a zip that can be unpacked anywhere.
 #
-#   tools/package-windows.sh [BUILD]
+#   tools/package-windows.sh
 #
 # Prints the path of the zip.
 set -eu
 
 root=$(cd "$(dirname "$0")/.." && pwd)
-build=$root/${1:-build/windows}
+build=$root/build/windows
 
 fail() {
     echo "package-windows: $1" >&2

@@ -1,10 +1,11 @@
 """Writes openCypher texts at random, in the mix of constructs that applications send."""
 
+import vocabulary
+
 
 class Writer:
-    def __init__(self, random, vocabulary):
+    def __init__(self, random):
         self.random = random
-        self.words = vocabulary
 
     # Expressions
 
@@ -12,13 +13,13 @@ class Writer:
         return self.random.choice(choices)()
 
     def variable(self):
-        return self.random.choice(self.words.variables)
+        return self.random.choice(vocabulary.VARIABLES)
 
     def key(self):
-        return self.random.choice(self.words.keys)
+        return self.random.choice(vocabulary.KEYS)
 
     def label(self):
-        return self.random.choice(self.words.labels)
+        return self.random.choice(vocabulary.LABELS)
 
     def property(self, variable=None):
         path = ''.join('.' + self.key() for _ in range(self.random.choice((1, 1, 1, 2))))
@@ -28,10 +29,10 @@ class Writer:
         return self.random.choice((str(self.random.randrange(100000)), f'{self.random.randrange(1, 99)}.5', '0x1F', '1e-3'))
 
     def string(self):
-        return self.random.choice(self.words.strings)
+        return self.random.choice(vocabulary.STRINGS)
 
     def parameter(self):
-        return '$' + self.random.choice(self.words.parameters)
+        return '$' + self.random.choice(vocabulary.PARAMETERS)
 
     def literal(self):
         return self.one_of(self.number, self.number, self.string, self.string, lambda: 'true', lambda: 'NULL')
@@ -44,7 +45,7 @@ class Writer:
 
     def call(self):
         arguments = ', '.join(self.value() for _ in range(self.random.choice((1, 1, 2, 3))))
-        return f'{self.random.choice(self.words.functions)}({arguments})'
+        return f'{self.random.choice(vocabulary.FUNCTIONS)}({arguments})'
 
     def sum(self):
         operator = self.random.choice((' + ', ' * ', '/', ' % '))
@@ -98,7 +99,7 @@ class Writer:
     # Patterns
 
     def type(self):
-        return self.random.choice(self.words.types)
+        return self.random.choice(vocabulary.TYPES)
 
     def node(self):
         return self.one_of(
@@ -138,7 +139,7 @@ class Writer:
         return f'UNWIND {source} AS {self.variable()}'
 
     def in_query_call(self):
-        return f'CALL {self.random.choice(self.words.procedures)}({self.value()}) YIELD {self.variable()}'
+        return f'CALL {self.random.choice(vocabulary.PROCEDURES)}({self.value()}) YIELD {self.variable()}'
 
     def create(self):
         return f'CREATE ({self.variable()}:{self.label()} {self.map_of(3)})-[:{self.type()}]->({self.variable()})'
@@ -171,7 +172,7 @@ class Writer:
         return f'RETURN {body}{order}' + self.random.choice(('', '', f' SKIP {self.number()} LIMIT {self.parameter()}'))
 
     def remark(self):
-        return self.random.choice(('', '', '', f'// {self.random.choice(self.words.remarks)}\n'))
+        return self.random.choice(('', '', '', f'// {self.random.choice(vocabulary.REMARKS)}\n'))
 
     def reading(self):
         return self.one_of(self.match, self.match, self.match, self.match, self.unwind, self.in_query_call)
@@ -213,7 +214,7 @@ class Writer:
             'where': f'MATCH {self.pattern()} WHERE {self.filter_of(80)} RETURN {self.items(1)}',
             'unwind': f'{self.unwind()} RETURN {self.items(1)}',
             'call': f'MATCH {self.pattern()} {self.in_query_call()} RETURN {self.items(2)}',
-            'standalone call': f'CALL {self.random.choice(self.words.procedures)} YIELD {one}',
+            'standalone call': f'CALL {self.random.choice(vocabulary.PROCEDURES)} YIELD {one}',
             'create': self.create(),
             'merge': self.merge(),
             'set': f'MATCH {self.pattern()} {self.set()}',

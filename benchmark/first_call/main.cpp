@@ -1,8 +1,8 @@
 // Measures a process that has just begun, in microseconds, as comma-separated values:
 //
-//   vorn-first-call TEXTS SUBJECT
+//   vorn-first-call SUBJECT
 //
-// loading the subject, its first call, its second one, all texts for the first time and once more.
+// loading the subject, its first call and its second one.
 
 #include <iostream>
 #include <string>
@@ -22,23 +22,14 @@ double microsecondsOf(const Action& action) {
   return 1e6 * (threadSeconds() - start);
 }
 
-void callAll(const Subject& subject, const std::vector<Text>& texts) {
-  for (const Text& text : texts) {
-    subject.call(functionsFor(text).front(), text);
-  }
-}
-
 void run(const std::vector<std::string>& arguments) {
-  const std::vector<Text> texts = readTexts(arguments.at(0));
   std::unique_ptr<Subject> subject;
-  const double load = microsecondsOf([&] { subject = makeSubject(arguments.at(1)); });
-  const Text first{"first", Text::Entry::Query, "RETURN 1 AS one", u"RETURN 1 AS one", {}};
-  const auto callFirst = [&] { subject->call(functionsFor(first).front(), first); };
-  const double firstCall = microsecondsOf(callFirst);
-  const double secondCall = microsecondsOf(callFirst);
-  const double cold = microsecondsOf([&] { callAll(*subject, texts); });
-  const double warm = microsecondsOf([&] { callAll(*subject, texts); });
-  std::cout << load << ',' << firstCall << ',' << secondCall << ',' << cold << ',' << warm << '\n';
+  const double load = microsecondsOf([&] { subject = makeSubject(arguments.at(0)); });
+  const Text text{"first", Text::Entry::Query, "RETURN 1 AS one", u"RETURN 1 AS one", {}};
+  const auto call = [&] { subject->call(functionsFor(text).front(), text); };
+  const double first = microsecondsOf(call);
+  const double second = microsecondsOf(call);
+  std::cout << subject->name << ',' << load << ',' << first << ',' << second << '\n';
 }
 
 }  // namespace

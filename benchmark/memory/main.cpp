@@ -1,12 +1,9 @@
-// Counts memory, as comma-separated values:
+// Counts what each call allocates, and its peak, as comma-separated values:
 //
-//   vorn-memory calls TEXTS SUBJECT...   what each warm call allocates, and its peak
-//   vorn-memory caches SUBJECT < TEXTS   what is left behind after 1, 2, 4 ... different texts
+//   vorn-memory TEXTS SUBJECT...
 
 #include <iomanip>
 #include <iostream>
-#include <sstream>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -36,40 +33,10 @@ void measureCalls(const std::vector<Text>& texts, const Subject& subject) {
   }
 }
 
-// One at a time, so that the texts themselves do not count.
-void callWithLine(const Subject& subject, const std::string& line) {
-  std::istringstream in(line);
-  for (const Text& text : readTexts(in)) {
-    for (const Subject::Function function : functionsFor(text)) {
-      subject.call(function, text);
-    }
-  }
-}
-
-void measureCaches(const Subject& subject) {
-  std::cout << "texts,subject,bytes\n";
-  std::string line;
-  line.reserve(1U << 20U);  // so that it does not grow while it is read
-  const std::size_t before = heap().live;
-  for (std::size_t texts = 1; std::getline(std::cin, line); ++texts) {
-    callWithLine(subject, line);
-    if ((texts & (texts - 1)) == 0 || texts == 1000000) {
-      std::cout << texts << ',' << subject.name << ',' << heap().live - before << std::endl;
-    }
-  }
-}
-
 void run(const std::vector<std::string>& arguments) {
-  if (arguments.at(0) == "caches") {
-    measureCaches(*makeSubject(arguments.at(1)));
-    return;
-  }
-  if (arguments.at(0) != "calls") {
-    throw std::invalid_argument("say what to measure: calls or caches");
-  }
   std::cout << "group,function,subject,bytes,allocations,allocated,peak\n";
-  const std::vector<Text> texts = readTexts(arguments.at(1));
-  for (std::size_t i = 2; i < arguments.size(); ++i) {
+  const std::vector<Text> texts = readTexts(arguments.at(0));
+  for (std::size_t i = 1; i < arguments.size(); ++i) {
     measureCalls(texts, *makeSubject(arguments[i]));
   }
 }

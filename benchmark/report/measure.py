@@ -3,9 +3,8 @@
 
     measure.py BUILD [--all] [--quick]
 
-BUILD holds the plainly built library and the programs that measure. build/optimized/libVornLib.so is
-measured beside it if it is there. Without --all only times are measured. A quick run shows that
-everything works; its numbers mean little.
+BUILD holds the library and the programs that measure. Without --all only times are measured. A quick
+run shows that everything works; its numbers mean little.
 """
 
 import argparse
@@ -13,8 +12,7 @@ import pathlib
 import subprocess
 import sys
 
-ROOT = pathlib.Path(__file__).parents[2]
-CORPUS = ROOT / 'benchmark/corpus'
+CORPUS = pathlib.Path(__file__).parents[1] / 'corpus'
 PROCESSES = 11
 
 
@@ -24,9 +22,8 @@ class Measurement:
         self.quick = quick
         self.data = build / 'data'
         self.data.mkdir(exist_ok=True)
-        optimized = ROOT / 'build/optimized/libVornLib.so'
-        self.libraries = [build / 'libVornLib.so', *([optimized] if optimized.exists() else [])]
-        self.subjects = ['bare', *self.libraries]
+        self.library = build / 'libVornLib.so'
+        self.subjects = ['bare', self.library]
         self.texts = self.write('corpus.jsonl', self.run(CORPUS / 'corpus.py'))
 
     def run(self, *command):
@@ -53,34 +50,22 @@ class Measurement:
     def growth(self):
         shapes = self.write('shapes.jsonl', self.run(CORPUS / 'shapes.py'))
         self.write('growth.csv', self.run(self.program('growth/vorn-growth'), shapes, *self.subjects))
-        self.write('growth-memory.csv', self.run(self.program('memory/vorn-memory'), 'calls', shapes, *self.subjects))
+        self.write('growth-memory.csv', self.run(self.program('memory/vorn-memory'), shapes, *self.subjects))
 
     def memory(self):
-        self.write('memory.csv', self.run(self.program('memory/vorn-memory'), 'calls', self.texts, *self.subjects))
-
-    def caches(self):
-        count = 10000 if self.quick else 1000000
-        with subprocess.Popen([CORPUS / 'corpus.py', '--many', str(count)], stdout=subprocess.PIPE) as texts:
-            run = subprocess.run([self.program('memory/vorn-memory'), 'caches', self.libraries[-1]],
-                                 stdin=texts.stdout, stdout=subprocess.PIPE, text=True, check=True)
-        self.write('caches.csv', run.stdout)
+        self.write('memory.csv', self.run(self.program('memory/vorn-memory'), self.texts, *self.subjects))
 
     def first_calls(self):
-        lines = ['subject,load,first,second,cold,warm\n']
+        lines = ['subject,load,first,second\n']
         for _ in range(PROCESSES):
             for subject in self.subjects:
-                name = subject if subject == 'bare' else subject.parent.name
-                lines.append(f'{name},{self.run(self.program("first_call/vorn-first-call"), self.texts, subject)}')
+                lines.append(self.run(self.program('first_call/vorn-first-call'), subject))
         self.write('first-calls.csv', ''.join(lines))
 
     def sizes(self):
-        lines = ['subject,file,stripped\n']
-        for library in self.libraries:
-            stripped = self.data / 'stripped.so'
-            self.run('strip', '-o', stripped, library)
-            lines.append(f'{library.parent.name},{library.stat().st_size},{stripped.stat().st_size}\n')
-            stripped.unlink()
-        self.write('sizes.csv', ''.join(lines))
+        stripped = self.data / 'stripped.so'
+        self.run('strip', '-o', stripped, self.library)
+        self.write('sizes.csv', f'file,stripped\n{self.library.stat().st_size},{stripped.stat().st_size}\n')
 
 
 def main():
@@ -92,7 +77,7 @@ def main():
     measurement = Measurement(arguments.build.resolve(), arguments.quick)
     measurement.times()
     if arguments.all:
-        for part in ('sizes', 'first_calls', 'memory', 'growth', 'caches'):
+        for part in ('sizes', 'first_calls', 'memory', 'growth'):
             print(f'Measuring {part.replace("_", " ")}', file=sys.stderr)
             getattr(measurement, part)()
 

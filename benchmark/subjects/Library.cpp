@@ -40,7 +40,7 @@ Function find(void* library, const char* symbol) {
   return reinterpret_cast<Function>(address);
 }
 
-// build/optimized/libVornLib.so is "optimized".
+// build/bench/libVornLib.so is "bench".
 std::string folderOf(const std::string& path) {
   return std::filesystem::absolute(path).parent_path().filename();
 }
