@@ -3,16 +3,12 @@
 import math
 from xml.sax.saxutils import escape
 
-COLOURS = {'bare': '#888888'}
-FURTHER_COLOURS = ('#1f77b4', '#d62728', '#2ca02c')
+COLOURS = {'bare': '#888888', 'library': '#1f77b4'}
 STYLE = '<style>text{font:11px sans-serif;fill:#333}.title{font-weight:bold}rect.back{fill:#fff}</style>'
-PANEL_WIDTH, PANEL_HEIGHT = 300, 200
-MARGIN_LEFT, MARGIN_RIGHT, MARGIN_TOP, MARGIN_BOTTOM = 52, 12, 26, 34
-
-
-def colour(names, name):
-    others = [other for other in names if other not in COLOURS]
-    return COLOURS.get(name) or FURTHER_COLOURS[others.index(name) % len(FURTHER_COLOURS)]
+PANEL_WIDTH, PANEL_HEIGHT = 400, 260
+MARGIN_LEFT, MARGIN_RIGHT, MARGIN_TOP, MARGIN_BOTTOM = 52, 20, 26, 34
+BAR_HEIGHT, BAR_LEFT, BAR_SCALE = 13, 230, 480
+TENTH = 0.1
 
 
 def text(x, y, words, anchor='start', kind=''):
@@ -49,57 +45,54 @@ class LogScale:
         return [10.0 ** power for power in range(self.low, self.high + 1)]
 
 
-def log_log_panel(title, series, left, top, x_words, y_words):
-    """`series` gives the points (x, y) by name."""
-    points = [point for some in series.values() for point in some]
+def log_log_panel(title, x_words, lines, left):
+    """`lines` are pairs of a subject and its points (x, y)."""
+    points = [point for _, some in lines for point in some]
     x_scale = LogScale([x for x, _ in points], left + MARGIN_LEFT, left + PANEL_WIDTH - MARGIN_RIGHT)
-    y_scale = LogScale([y for _, y in points], top + PANEL_HEIGHT - MARGIN_BOTTOM, top + MARGIN_TOP)
-    parts = [text(left + MARGIN_LEFT, top + 16, f'{title}: {y_words}', kind='title'),
-             text(left + PANEL_WIDTH - MARGIN_RIGHT, top + PANEL_HEIGHT - 4, x_words, 'end')]
+    y_scale = LogScale([y for _, y in points], 20 + PANEL_HEIGHT - MARGIN_BOTTOM, 20 + MARGIN_TOP)
+    parts = [text(left + MARGIN_LEFT, 36, title, kind='title'),
+             text(left + PANEL_WIDTH - MARGIN_RIGHT, 20 + PANEL_HEIGHT - 4, x_words, 'end')]
     for tick in x_scale.ticks():
         parts.append(line(x_scale.at(tick), y_scale.start, x_scale.at(tick), y_scale.end))
         parts.append(text(x_scale.at(tick), y_scale.start + 13, short(tick), 'middle'))
     for tick in y_scale.ticks():
         parts.append(line(x_scale.start, y_scale.at(tick), x_scale.end, y_scale.at(tick)))
         parts.append(text(x_scale.start - 4, y_scale.at(tick) + 4, short(tick), 'end'))
-    for name, some in series.items():
+    for subject, some in lines:
         path = ' '.join(f'{x_scale.at(x):.1f},{y_scale.at(y):.1f}' for x, y in some)
-        parts.append(f'<polyline points="{path}" fill="none" stroke="{colour(series, name)}" stroke-width="1.6"/>')
+        parts.append(f'<polyline points="{path}" fill="none" stroke="{COLOURS[subject]}"/>')
     return parts
 
 
-def legend(names, left, top):
+def legend(left):
     parts = []
-    for name in names:
-        parts.append(line(left, top - 4, left + 18, top - 4, colour(names, name)))
-        parts.append(text(left + 22, top, name))
-        left += 36 + 7 * len(name)
+    for subject, colour in COLOURS.items():
+        parts.append(line(left, 12, left + 18, 12, colour))
+        parts.append(text(left + 22, 16, subject))
+        left += 90
     return parts
 
 
-def log_log(panels, x_words, y_words, columns=3):
-    """`panels` gives the series by title."""
-    names = list(dict.fromkeys(name for series in panels.values() for name in series))
-    parts = legend(names, MARGIN_LEFT, 18)
-    for i, (title, series) in enumerate(panels.items()):
-        parts += log_log_panel(title, series, i % columns * PANEL_WIDTH, 26 + i // columns * PANEL_HEIGHT,
-                               x_words, y_words)
-    rows = -(-len(panels) // columns)
-    return picture(min(columns, len(panels)) * PANEL_WIDTH, 30 + rows * PANEL_HEIGHT, parts)
+def log_log(panels, x_words):
+    """`panels` gives the lines by title."""
+    parts = legend(MARGIN_LEFT)
+    for i, (title, lines) in enumerate(panels.items()):
+        parts += log_log_panel(title, x_words, lines, i * PANEL_WIDTH)
+    return picture(len(panels) * PANEL_WIDTH, 24 + PANEL_HEIGHT, parts)
 
 
-def bars(rows, names):
-    """`rows` gives a value by name for each label; a line marks the value 1."""
-    left, scale, height = 230, 380, 10
-    parts = legend(names, left, 18)
-    top = 30
-    for label, values in rows.items():
-        parts.append(text(left - 6, top + height * len(values) / 2 + 4, label, 'end'))
-        for name, value in values.items():
-            parts.append(f'<rect x="{left}" y="{top}" width="{value * scale:.1f}" height="{height - 1}" '
-                         f'fill="{colour(names, name)}"/>')
-            parts.append(text(left + value * scale + 4, top + height - 1, f'{value:.2f}'))
-            top += height
-        top += 8
-    parts.append(line(left + scale, 26, left + scale, top, '#000'))
-    return picture(left + int(scale * 1.4), top + 6, parts)
+def bars(values):
+    """`values` gives what the library takes of bare's time by label; lines mark all of it and a tenth."""
+    parts = []
+    top = 22
+    for label, value in values.items():
+        parts.append(text(BAR_LEFT - 6, top + BAR_HEIGHT - 3, label, 'end'))
+        parts.append(f'<rect x="{BAR_LEFT}" y="{top}" width="{value * BAR_SCALE:.1f}" height="{BAR_HEIGHT - 2}" '
+                     f'fill="{COLOURS["library"]}"/>')
+        parts.append(text(BAR_LEFT + max(value, TENTH) * BAR_SCALE + 4, top + BAR_HEIGHT - 3, f'{value:.3f}'))
+        top += BAR_HEIGHT
+    for mark in (TENTH, 1):
+        parts.append(line(BAR_LEFT + mark * BAR_SCALE, 18, BAR_LEFT + mark * BAR_SCALE, top, COLOURS['bare']))
+    parts.append(text(BAR_LEFT + TENTH * BAR_SCALE, 14, 'a tenth', 'middle'))
+    parts.append(text(BAR_LEFT + BAR_SCALE, 14, 'bare', 'middle'))
+    return picture(BAR_LEFT + BAR_SCALE + 40, top + 6, parts)

@@ -2,25 +2,27 @@
 """Writes docs/performance.md and its pictures from BUILD/data.
 
     report.py BUILD
-
-What stands between the two marks about the levers is written by hand and stays.
 """
 
 import csv
 import math
+import os
 import pathlib
 import platform
-import re
 import statistics
+import subprocess
 import sys
+import textwrap
+from collections import defaultdict
 
 import pictures
-from times import HEADS, THREAD_HEADS, Times
+from times import Times
 
-DOCS = pathlib.Path(__file__).parents[2] / 'docs'
+ROOT = pathlib.Path(__file__).parents[2]
+DOCS = ROOT / 'docs'
 PICTURES = DOCS / 'performance'
-LEVERS = re.compile('<!-- levers -->.*<!-- end of levers -->', re.DOTALL)
-NO_LEVERS = '<!-- levers -->\nNothing is noted here yet.\n<!-- end of levers -->'
+# Their calls end by an exception, or leave the path of valid texts.
+NOT_ANSWERED = ('refused', 'with an error')
 
 
 def table(heads, rows):
@@ -50,146 +52,181 @@ def processor():
     return platform.machine()
 
 
-def shapes_of(rows, value):
-    """For each shape and function the points (size, value) by subject."""
-    panels = {}
+def machine():
+    return paragraph(f'''Measured on {os.cpu_count()} processors ({processor()}, {platform.system()} {platform.machine()}),
+        on which other programs ran too. Times differ from machine to machine, ratios less.''')
+
+
+def paragraph(words):
+    return textwrap.fill(' '.join(words.split()), 125)
+
+
+class Speed:
+    """The times of both, by group: those of texts that are answered first."""
+
+    def __init__(self, times, library):
+        self.times, self.library = times, library
+        self.groups = sorted(times.groups, key=lambda group: (not self.answers(group), group))
+        self.ratios = {group: times.value(group, library, 'ratio')[0] for group in self.groups}
+
+    @staticmethod
+    def answers(group):
+        return not any(words in group for words in NOT_ANSWERED)
+
+    def rows(self):
+        for group in self.groups:
+            cells = [group]
+            for subject in ('bare', self.library):
+                time, spread = self.times.value(group, subject, 'us/text')
+                cells += [f'{time:,.1f}', f'± {spread:,.1f}']
+            yield (*cells, f'{self.ratios[group]:.3f}')
+
+    def summary(self):
+        answered = [group for group in self.groups if self.answers(group)]
+        slowest = max(answered, key=self.ratios.get)
+        worst = max(self.groups, key=self.ratios.get)
+        return paragraph(f'''In the median of the groups the library takes {statistics.median(self.ratios.values()):.3f} of
+            the time of the bare parser. Of the groups with an answer the slowest is "{slowest}", {self.ratios[slowest]:.3f};
+            of all groups it is "{worst}", {self.ratios[worst]:.3f}.''')
+
+
+def by_shape(rows, value):
+    """For each shape and subject the points (bytes, value)."""
+    shapes = defaultdict(list)
     for row in rows:
-        shape, size = row['group'].rsplit(' ', 1)
-        title = shape if row['function'] == 'columns' else f'{shape}, {row["function"]}'
-        panels.setdefault(title, {}).setdefault(row['subject'], []).append((int(size), value(row)))
-    return panels
+        shape = row['group'].rsplit(' ', 1)[0]
+        shapes[f'{shape}: {row["function"]}', row['subject']].append((int(row['bytes']), value(row)))
+    return shapes
 
 
-def exponent(points):
-    """How the value grows from an eighth of the largest size on: 1 is linear, 2 is quadratic."""
-    (x0, y0), (x1, y1) = points[-4], points[-1]
-    return math.log(y1 / y0) / math.log(x1 / x0)
+def exponents(shapes, library):
+    """How each shape grows from an eighth of the largest size on: 1 is linear, 2 is quadratic."""
+    for (shape, subject), points in shapes.items():
+        if subject == library:
+            (x0, y0), (x1, y1) = points[-4], points[-1]
+            yield shape, math.log(y1 / y0) / math.log(x1 / x0)
 
 
-def growth_rows(panels):
-    for title, series in panels.items():
-        bare = series['bare']
-        for name, points in series.items():
-            if name != 'bare':
-                ratios = [one / other for (_, one), (_, other) in zip(points, bare)]
-                yield (title, name, f'{exponent(bare):.2f}', f'{exponent(points):.2f}',
-                       f'{ratios[0]:.2f}', f'{ratios[len(ratios) // 2]:.2f}', f'{ratios[-1]:.2f}')
+def lines(shapes):
+    return [('bare' if subject == 'bare' else 'library', points)
+            for (_, subject), points in sorted(shapes.items(), key=lambda entry: entry[0][1] != 'bare')]
 
 
-def memory_rows(rows):
-    groups = {}
+def growth(data, library):
+    times = by_shape(rows_of(data / 'growth.csv'), lambda row: float(row['fastest']) * 1e6)
+    peaks = by_shape(rows_of(data / 'growth-memory.csv'), lambda row: int(row['peak']))
+    image = draw('growth', pictures.log_log(
+        {'Time of a call, µs': lines(times), 'Memory of a call at its peak, bytes': lines(peaks)}, 'bytes of text'))
+    found = dict(exponents(times, library))
+    lowest, highest = min(found, key=found.get), max(found, key=found.get)
+    words = paragraph(f'''Each line is one shape of text that can be repeated (`benchmark/corpus/shapes.py`), in sizes 1 to
+        1,024. Over the last three doublings the library's time grows with the exponent {statistics.median(found.values()):.2f}
+        in the median, {found[lowest]:.2f} at least ("{lowest}") and {found[highest]:.2f} at most ("{highest}"); 1 is linear,
+        2 quadratic.''')
+    return f'{words}\n\n{image}'
+
+
+def memory_rows(rows, speed):
+    groups = defaultdict(list)
     for row in rows:
-        groups.setdefault((f'{row["group"]}: {row["function"]}', row['subject']), []).append(row)
-    for (group, subject), some in sorted(groups.items()):
-        yield (group, subject, *(number(statistics.mean(int(row[key]) for row in some))
-                                 for key in ('bytes', 'allocations', 'allocated', 'peak')))
+        groups[f'{row["group"]}: {row["function"]}', row['subject']].append(row)
+
+    def mean(group, subject, key):
+        return number(statistics.mean(int(row[key]) for row in groups[group, subject]))
+
+    for group in speed.groups:
+        yield (group, mean(group, 'bare', 'bytes'), *(mean(group, subject, key) for key in ('allocations', 'peak')
+                                                      for subject in ('bare', speed.library)))
 
 
-def peak_panels(rows):
-    series = {}
-    for row in rows:
-        if row['function'] != 'renaming':
-            series.setdefault(row['subject'], []).append((int(row['bytes']), int(row['peak'])))
-    return {'all texts': {name: sorted(points) for name, points in series.items()}}
-
-
-def first_call_rows(rows):
-    for subject in dict.fromkeys(row['subject'] for row in rows):
+def first_call_rows(rows, library):
+    for words, subject in (('bare', 'bare'), ('library', library)):
         some = [row for row in rows if row['subject'] == subject]
-        yield (subject, *(number(statistics.median(float(row[key]) for row in some))
-                          for key in ('load', 'first', 'second', 'cold', 'warm')))
+        yield (words, *(number(statistics.median(float(row[key]) for row in some)) for key in ('load', 'first', 'second')))
 
 
-def document(data, levers):
+def decisions():
+    return subprocess.run([sys.executable, '-B', ROOT / 'grammar/count_decisions.py'],
+                          check=True, capture_output=True, text=True).stdout
+
+
+def document(build):
+    data, library = build / 'data', build.name
     times = Times(data / 'times.json')
-    ratios = {group: {subject: times.value(group, subject, 'fastest ratio')[0] for subject in times.subjects}
-              for group in times.groups}
+    speed = Speed(times, library)
     memory = rows_of(data / 'memory.csv')
-    growth = shapes_of(rows_of(data / 'growth.csv'), lambda row: float(row['fastest']) * 1e6)
-    growth_memory = shapes_of(rows_of(data / 'growth-memory.csv'), lambda row: int(row['peak']))
-    caches = rows_of(data / 'caches.csv')
-    cache_points = [(int(row['texts']), int(row['bytes'])) for row in caches]
+    size = rows_of(data / 'sizes.csv')[0]
     return f'''# Performance
 
-`make bench-report` measures and writes this page, and `make bench` prints its first table. Written on {processor()},
-{platform.system()} {platform.machine()}. The numbers differ from machine to machine, the ratios less.
+{speed.summary()}
 
-## What is compared
+{draw('ratios', pictures.bars(speed.ratios))}
 
-**bare** is the parser without the library: input stream, lexer, token stream, parser and a walk with an empty listener,
-over text that is UTF-8 already, built with `-O2 -DNDEBUG`. **bench** is the library built with the same flags,
-**optimized** the one that `make release` leaves in `build/optimized/`. All are in one program and take turns call by call.
-Times are processor time of the calling thread, in medians over the repetitions, with half the distance between the
-quartiles as spread. *fastest* compares the fastest call of each text, which other programs on the machine disturb least;
-*worst text* is the largest such ratio in the group. `benchmark/corpus/corpus.py` writes the texts, always the same ones.
+{table(('texts: function', 'bare, µs', 'spread', 'library, µs', 'spread', 'ratio'), speed.rows())}
 
-## Time
+**bare** is the parser that the ANTLR tool generates, without the library: input stream, lexer, token stream, parser and a
+walk with an empty listener, over text that is UTF-8 already. Both are built with `-O2 -DNDEBUG`, run in one program and take
+turns call by call. A time is processor time of the calling thread for one text on average: the median of nine repetitions,
+with half the distance between the quartiles as spread. `benchmark/corpus/corpus.py` writes the texts, always the same ones.
 
-{draw('ratios', pictures.bars(ratios, times.subjects))}
+{machine()}
 
-{table(HEADS, times.rows())}
+`make bench-report` measures and writes this page, `make bench` prints the times in more detail. `make check-instructions`
+compares the instructions of each call, which no other program disturbs.
+
+## First call
+
+In microseconds, medians over new processes: loading the library, the first call (`RETURN 1 AS one`) and the same call again.
+
+{table(('subject', 'load', 'first call', 'second call'), first_call_rows(rows_of(data / 'first-calls.csv'), library))}
 
 ## Threads
 
-All texts in each thread, by the time of day. Two processors give two at best; four threads show what waiting costs.
+Calls with all texts in each thread, by the time of day, beside the calls of one thread.
 
-{table(THREAD_HEADS, times.thread_rows())}
+{table(('subject', 'calls/s, 1 thread', '2 threads', '4 threads'),
+       (('library' if row[0] == library else row[0], *row[1:]) for row in times.thread_rows()))}
 
-## First call, and tables that are still empty
+## Memory
 
-In microseconds, medians over new processes: loading the library, the first call (`RETURN 1 AS one`), the same call again,
-then all texts of the corpus for the first time and once more.
+Bytes of text, allocations of a call and the memory that it holds at most, on average.
 
-{table(('subject', 'load', 'first call', 'second call', 'all texts, cold', 'all texts, warm'),
-       first_call_rows(rows_of(data / 'first-calls.csv')))}
+{table(('texts: function', 'bytes', 'bare, allocations', 'library', 'bare, peak in bytes', 'library'),
+       memory_rows(memory, speed))}
 
-## Size of the library
-
-In bytes, as built and without symbols.
-
-{table(('library', 'file', 'stripped'),
-       ((row['subject'], number(int(row['file'])), number(int(row['stripped']))) for row in rows_of(data / 'sizes.csv')))}
-
-## Memory of a call
-
-What `operator new` gives out in a warm call, on average over the group; the peak is what one call holds at most.
-
-{table(('group: function', 'subject', 'bytes of text', 'allocations', 'bytes allocated', 'peak'), memory_rows(memory))}
-
-{draw('memory', pictures.log_log(peak_panels(memory), 'bytes of text', 'peak, bytes'))}
-
-## What stays in the parser's tables
-
-The tables grow with new shapes of text and stay. Measured with `corpus.py --many` and the library `{caches[0]["subject"]}`:
-
-{table(('texts so far', 'bytes that stay'), ((number(x), number(y)) for x, y in cache_points))}
-
-{draw('caches', pictures.log_log({'tables': {caches[0]["subject"]: cache_points}}, 'texts so far', 'bytes that stay'))}
+The library itself has {number(int(size['file']))} bytes, {number(int(size['stripped']))} without symbols.
 
 ## Growth
 
-Each repeatable shape of the language (`benchmark/corpus/shapes.py`) in sizes 1 to 1,024. The exponent is that of the last
-three doublings, 1 for linear growth; then the ratio to bare at the smallest, the middle and the largest size.
+{growth(data, library)}
 
-{table(('shape', 'subject', 'bare grows', 'grows', 'ratio, smallest', 'middle', 'largest'), growth_rows(growth))}
+## Decisions
 
-{draw('growth-time', pictures.log_log(growth, 'size', 'µs'))}
+A decision is a place where a text may go on in several ways. The compiler of the grammar finds the tokens that tell these
+ways apart, three at most. This counts how many it takes:
 
-Peak memory of a call over the same shapes:
+```sh
+grammar/count_decisions.py
+```
 
-{draw('growth-memory', pictures.log_log(growth_memory, 'size', 'bytes'))}
+```text
+{decisions()}```
 
-## What makes the release build faster
-
-{levers}
+- Where alternatives begin alike, the beginning is taken once and the decision comes behind it. Fewer decisions remain, and
+  fewer of them take more than three tokens.
+- `oC_SingleQuery` is compiled from an equivalent form: a part of a query shows only at its end, by a `WITH`, that another
+  part follows.
+- What three tokens do not tell is tried in order: `oC_Query` at `CALL`, `oC_StandaloneCall` at its arguments, `oC_Atom` at
+  brackets, names and the words of quantifiers, and the loop of `oC_RelationshipsPattern`. Each place is tried once.
+- The parser that the ANTLR tool generates decides by one token itself, but for some places where it asks the runtime to
+  predict. In the fallback `Lookahead.cpp` answers there first. It looks at three tokens, at seven where few of them leave
+  it open, as in names with dots.
 '''
 
 
 def main():
-    data = pathlib.Path(sys.argv[1]) / 'data'
-    file = DOCS / 'performance.md'
-    found = LEVERS.search(file.read_text(encoding='utf-8')) if file.exists() else None
-    file.write_text(document(data, found[0] if found else NO_LEVERS), encoding='utf-8')
+    build = pathlib.Path(sys.argv[1]).resolve()
+    (DOCS / 'performance.md').write_text(document(build), encoding='utf-8')
 
 
 if __name__ == '__main__':
