@@ -1,7 +1,8 @@
 #pragma once
 
-#include <cstdlib>
+#include <cstddef>
 #include <ctime>
+#include <new>
 
 #include "Subject.h"
 
@@ -17,8 +18,7 @@ inline double threadSeconds() {
 /// otherwise, so that one subject would pay for what another one has left.
 inline void tidyHeap() {
   constexpr std::size_t large = std::size_t{64} * 1024;
-  void* volatile block = std::malloc(large);
-  std::free(block);
+  ::operator delete(::operator new(large));
 }
 
 /// The processor time of one call, in seconds.
