@@ -34,13 +34,11 @@ test: setup $(BUILD)/build.ninja ## build everything and run all tests
 	@cmake --build --preset release
 	@ctest --preset release
 
-soak: setup $(BUILD)/build.ninja ## make MILLIONS of random calls, print the memory at intervals
-	@cmake --build --preset release --target soak
-	@$(BUILD)/tests/robustness/soak $(MILLIONS)
+soak: bench-build ## make MILLIONS of random calls, print the memory at intervals
+	@$(BENCH)/benchmark/vorn-bench soak $(BENCH)/libVornLib.so $(MILLIONS)
 
-large-texts: setup $(BUILD)/build.ninja ## measure time and memory of large and of ambiguous texts
-	@cmake --build --preset release --target measure-large-texts
-	@$(BUILD)/tests/robustness/measure-large-texts
+large-texts: bench-build ## measure time and memory of large and of ambiguous texts
+	@$(BENCH)/benchmark/vorn-bench large-texts $(BENCH)/libVornLib.so
 
 compare: setup $(BUILD)/build.ninja ## compare the parser with the bare pipeline on TEXTS texts
 	@cmake --build --preset release --target compare

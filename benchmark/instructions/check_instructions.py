@@ -29,7 +29,7 @@ GROWTH = 1.02
 def start(build, texts, subject, folder):
     return subprocess.Popen(
         ['valgrind', '--tool=callgrind', '--instr-atstart=no', '--dump-line=no', f'--callgrind-out-file={folder}/dump',
-         build / 'benchmark/instructions/vorn-count-instructions', texts, subject],
+         build / 'benchmark/vorn-bench', 'instructions', texts, subject],
         stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True)
 
 

@@ -32,8 +32,8 @@ class Measurement:
             sys.exit(f'measure: {pathlib.Path(command[0]).name} failed with status {run.returncode}.')
         return run.stdout
 
-    def program(self, name):
-        return self.build / 'benchmark' / name
+    def bench(self, command):
+        return self.build / 'benchmark/vorn-bench', command
 
     def write(self, name, text):
         file = self.data / name
@@ -41,7 +41,7 @@ class Measurement:
         return file
 
     def times(self):
-        self.run(self.program('times/vorn-bench'), self.texts, *self.subjects,
+        self.run(*self.bench('times'), self.texts, *self.subjects,
                  '--benchmark_enable_random_interleaving=true',
                  f'--benchmark_repetitions={3 if self.quick else 9}',
                  f'--benchmark_min_time={0.01 if self.quick else 0.3}',
@@ -49,17 +49,17 @@ class Measurement:
 
     def growth(self):
         shapes = self.write('shapes.jsonl', self.run(CORPUS / 'shapes.py'))
-        self.write('growth.csv', self.run(self.program('growth/vorn-growth'), shapes, *self.subjects))
-        self.write('growth-memory.csv', self.run(self.program('memory/vorn-memory'), shapes, *self.subjects))
+        self.write('growth.csv', self.run(*self.bench('growth'), shapes, *self.subjects))
+        self.write('growth-memory.csv', self.run(self.build / 'benchmark/memory/vorn-memory', shapes, *self.subjects))
 
     def memory(self):
-        self.write('memory.csv', self.run(self.program('memory/vorn-memory'), self.texts, *self.subjects))
+        self.write('memory.csv', self.run(self.build / 'benchmark/memory/vorn-memory', self.texts, *self.subjects))
 
     def first_calls(self):
         lines = ['subject,load,first,second\n']
         for _ in range(PROCESSES):
             for subject in self.subjects:
-                lines.append(self.run(self.program('first_call/vorn-first-call'), subject))
+                lines.append(self.run(*self.bench('first-call'), subject))
         self.write('first-calls.csv', ''.join(lines))
 
     def sizes(self):

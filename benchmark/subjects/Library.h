@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Subject.h"
+#include "robustness/Questions.h"
 
 /// The exported functions of one build of the library. Several can be loaded side by side.
 class Library : public Subject {
@@ -10,7 +11,9 @@ class Library : public Subject {
   void call(Function function, const Text& text) const override;
 
  private:
-  decltype(&vorn::GetOutputNamesAndTypes) columns;
-  decltype(&vorn::GetVariableUsagesInPropertyFilterOCExpression) usages;
-  decltype(&vorn::ReplaceVariableNamesInPropertyFilterOCExpression) renaming;
+  Calls calls_;
 };
+
+/// Loads the library and leaves it in the process, for its code must outlive every call. Throws a
+/// std::runtime_error if it cannot be loaded.
+Calls loadCalls(const std::string& path);

@@ -1,18 +1,14 @@
-// Makes random calls on all functions and prints the memory of the process at intervals: once the
-// runtime's tables are built, it must stay flat.
-//
-//   soak MILLIONS
-
 #include <unistd.h>
 
 #include <cstddef>
-#include <cstdlib>
 #include <fstream>
 #include <iostream>
-#include <iterator>
+#include <stdexcept>
 #include <string>
 
+#include "Commands.h"
 #include "robustness/RandomTexts.h"
+#include "subjects/Library.h"
 
 namespace {
 
@@ -32,10 +28,14 @@ bool isRefusal(const std::string& answer) {
          answer.rfind("forbidden", 0) == 0;
 }
 
-void soak(std::size_t calls) {
-  const Calls library = {&vorn::GetOutputNamesAndTypes,
-                         &vorn::GetVariableUsagesInPropertyFilterOCExpression,
-                         &vorn::ReplaceVariableNamesInPropertyFilterOCExpression};
+}  // namespace
+
+void soak(const Arguments& arguments) {
+  const Calls library = loadCalls(arguments.at(0));
+  const auto calls = static_cast<std::size_t>(std::stod(arguments.at(1)) * million);
+  if (calls < intervals) {
+    throw std::invalid_argument("say how many millions of calls");
+  }
   RandomTexts texts(1);
   std::size_t refused = 0;
   std::cout << "calls\trefused\tresident MiB\n";
@@ -44,23 +44,5 @@ void soak(std::size_t calls) {
     if (call % (calls / intervals) == 0) {
       std::cout << call << '\t' << refused << '\t' << residentMebibytes() << std::endl;
     }
-  }
-}
-
-}  // namespace
-
-int main(int argumentCount, char** arguments) {
-  try {
-    const double millions = argumentCount == 2 ? std::stod(*std::next(arguments)) : 0;
-    const auto calls = static_cast<std::size_t>(millions * million);
-    if (calls < intervals) {
-      std::cerr << "soak: say how many millions of calls.\n";
-      return EXIT_FAILURE;
-    }
-    soak(calls);
-    return EXIT_SUCCESS;
-  } catch (const std::exception& exception) {
-    std::cerr << "soak: " << exception.what() << '\n';
-    return EXIT_FAILURE;
   }
 }

@@ -1,13 +1,8 @@
-// Counts the instructions of every single call. Runs under callgrind, which writes one dump for
-// each and names it by what was called:
-//
-//   valgrind --tool=callgrind --instr-atstart=no vorn-count-instructions TEXTS SUBJECT...
-
 #include <valgrind/callgrind.h>
 
 #include <string>
 
-#include "RunProgram.h"
+#include "Commands.h"
 #include "corpus/Corpus.h"
 #include "subjects/Subject.h"
 
@@ -38,19 +33,13 @@ void count(const std::vector<Text>& texts, const Subject& subject) {
   }
 }
 
-void run(const std::vector<std::string>& arguments) {
-  const std::vector<Text> texts = readTexts(arguments.at(0));
-  for (std::size_t i = 1; i < arguments.size(); ++i) {
-    const std::unique_ptr<Subject> subject = makeSubject(arguments[i]);
-    fillTables(texts, *subject);
-    CALLGRIND_START_INSTRUMENTATION;
-    count(texts, *subject);
-    CALLGRIND_STOP_INSTRUMENTATION;
-  }
-}
-
 }  // namespace
 
-int main(int argc, char** argv) {
-  return runProgram("vorn-count-instructions", [&] { run({argv + 1, argv + argc}); });
+void countInstructions(const Arguments& arguments) {
+  const std::vector<Text> texts = readTexts(arguments.at(0));
+  const std::unique_ptr<Subject> subject = makeSubject(arguments.at(1));
+  fillTables(texts, *subject);
+  CALLGRIND_START_INSTRUMENTATION;
+  count(texts, *subject);
+  CALLGRIND_STOP_INSTRUMENTATION;
 }

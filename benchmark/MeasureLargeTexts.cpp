@@ -1,8 +1,3 @@
-// Prints processor time and peak memory of large texts at growing sizes, each in a process of its
-// own.
-//
-//   measure-large-texts
-
 #include <sys/resource.h>
 
 #include <cstddef>
@@ -11,8 +6,10 @@
 #include <iostream>
 #include <sstream>
 
+#include "Commands.h"
+#include "corpus/LargeTexts.h"
 #include "robustness/ChildProcess.h"
-#include "robustness/LargeTexts.h"
+#include "subjects/Library.h"
 
 namespace {
 
@@ -26,11 +23,8 @@ std::size_t peakMebibytes() {
 }
 
 // Status, seconds and mebibytes of one call.
-std::string measured(const LargeText& text, std::size_t size) {
+std::string measured(const Calls& library, const LargeText& text, std::size_t size) {
   return inChildProcess([&] {
-    const Calls library = {&vorn::GetOutputNamesAndTypes,
-                           &vorn::GetVariableUsagesInPropertyFilterOCExpression,
-                           &vorn::ReplaceVariableNamesInPropertyFilterOCExpression};
     const Question question = text.ofSize(size);
     const std::size_t before = peakMebibytes();
     const std::clock_t start = std::clock();
@@ -43,26 +37,28 @@ std::string measured(const LargeText& text, std::size_t size) {
   });
 }
 
-void print(const LargeText& text, std::size_t from, std::size_t to, std::size_t factor) {
+void print(const Calls& library, const LargeText& text, std::size_t from, std::size_t to,
+           std::size_t factor) {
   std::cout << text.name << '\n';
   for (std::size_t size = from; size <= to; size *= factor) {
-    std::cout << "  " << size << '\t' << measured(text, size) << std::endl;
+    std::cout << "  " << size << '\t' << measured(library, text, size) << std::endl;
   }
 }
 
 }  // namespace
 
-int main() {
+void measureLargeTexts(const Arguments& arguments) {
+  const Calls library = loadCalls(arguments.at(0));
   constexpr std::size_t factor = 4;
   for (std::size_t i = 0; i < linearTexts().size(); ++i) {
     // The first four are one token each, and so may be larger.
     const std::size_t largest = i < 4 ? 64 * mebibyte : mebibyte;
-    print(linearTexts()[i], largest / 64, largest, factor);
+    print(library, linearTexts()[i], largest / 64, largest, factor);
   }
   for (const LargeText& text : nestedTexts()) {
-    print(text, 1000, 64'000, factor);
+    print(library, text, 1000, 64'000, factor);
   }
   for (const LargeText& text : wrongTexts()) {
-    print(text, 125, 8000, factor);
+    print(library, text, 125, 8000, factor);
   }
 }

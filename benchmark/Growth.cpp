@@ -1,14 +1,10 @@
-// Measures each text alone, all subjects interleaved, and writes comma-separated values:
-//
-//   vorn-growth TEXTS SUBJECT...
-
 #include <algorithm>
 #include <iomanip>
 #include <iostream>
 #include <string>
 #include <vector>
 
-#include "RunProgram.h"
+#include "Commands.h"
 #include "corpus/Corpus.h"
 #include "subjects/CallTime.h"
 #include "subjects/Subject.h"
@@ -46,7 +42,9 @@ void measure(const Subjects& subjects, Subject::Function function, const Text& t
   }
 }
 
-void run(const std::vector<std::string>& arguments) {
+}  // namespace
+
+void measureGrowth(const Arguments& arguments) {
   Subjects subjects;
   for (std::size_t i = 1; i < arguments.size(); ++i) {
     subjects.push_back(makeSubject(arguments[i]));
@@ -57,10 +55,4 @@ void run(const std::vector<std::string>& arguments) {
       measure(subjects, function, text);
     }
   }
-}
-
-}  // namespace
-
-int main(int argc, char** argv) {
-  return runProgram("vorn-growth", [&] { run({argv + 1, argv + argc}); });
 }

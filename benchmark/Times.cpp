@@ -1,10 +1,3 @@
-// Measures time, texts by group, all subjects interleaved call by call:
-//
-//   vorn-bench TEXTS SUBJECT... [--benchmark_...]
-//
-// The first subject is what the others are compared with. Afterwards each subject runs all texts in
-// one, two and four threads.
-
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -13,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "RunProgram.h"
+#include "Commands.h"
 #include "corpus/Corpus.h"
 #include "subjects/BarePipeline.h"
 #include "subjects/CallTime.h"
@@ -138,22 +131,28 @@ void registerAll(const Groups& groups, const Subjects& subjects) {
   }
 }
 
-void run(const std::vector<std::string>& arguments) {
-  const std::vector<Text> texts = readTexts(arguments.at(0));
-  Subjects subjects;
-  for (std::size_t i = 1; i < arguments.size(); ++i) {
-    subjects.push_back(makeSubject(arguments[i]));
+// Google Benchmark takes its flags from the arguments of a program, and keeps the program's name.
+Arguments withoutFlags(Arguments arguments) {
+  static std::string program = "vorn-bench";
+  std::vector<char*> argv = {program.data()};
+  for (std::string& argument : arguments) {
+    argv.push_back(argument.data());
   }
-  const Groups groups = group(texts);
-  registerAll(groups, subjects);
-  benchmark::RunSpecifiedBenchmarks();
+  auto argc = static_cast<int>(argv.size());
+  benchmark::Initialize(&argc, argv.data());
+  return {argv.begin() + 1, argv.begin() + argc};
 }
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  return runProgram("vorn-bench", [&] {
-    benchmark::Initialize(&argc, argv);
-    run({argv + 1, argv + argc});
-  });
+void measureTimes(const Arguments& arguments) {
+  const Arguments others = withoutFlags(arguments);
+  const std::vector<Text> texts = readTexts(others.at(0));
+  Subjects subjects;
+  for (std::size_t i = 1; i < others.size(); ++i) {
+    subjects.push_back(makeSubject(others[i]));
+  }
+  const Groups groups = group(texts);
+  registerAll(groups, subjects);
+  benchmark::RunSpecifiedBenchmarks();
 }

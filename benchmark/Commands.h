@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// What stands behind the name of a command. TEXTS is a file as corpus.py or shapes.py writes it, a
+/// SUBJECT is "bare" or the path of a shared library.
+using Arguments = std::vector<std::string>;
+
+// Each command prints what it measures and throws a std::exception if it cannot.
+
+/// TEXTS SUBJECT... [--benchmark_...]: the time of each group of texts, then of all texts in one,
+/// two and four threads. The others are compared with the first subject.
+void measureTimes(const Arguments& arguments);
+
+/// TEXTS SUBJECT...: the time of each text, as comma-separated values.
+void measureGrowth(const Arguments& arguments);
+
+/// SUBJECT: the microseconds that loading it takes, its first call and its second one.
+void measureFirstCall(const Arguments& arguments);
+
+/// TEXTS SUBJECT: runs under callgrind, which writes one dump for each call, named by what was
+/// called.
+void countInstructions(const Arguments& arguments);
+
+/// LIBRARY MILLIONS: makes random calls on all functions and prints the memory of the process at
+/// intervals. Once the static data of the runtime is built, it must stay flat.
+void soak(const Arguments& arguments);
+
+/// LIBRARY: processor time and peak memory of large texts at growing sizes, each in a process of
+/// its own.
+void measureLargeTexts(const Arguments& arguments);
