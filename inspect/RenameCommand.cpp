@@ -21,7 +21,7 @@ std::vector<vorn_rename_pair_utf8> renamesOf(const Json& request) {
     if (!newName.is_string()) {
       throw InputError("A new name in \"renames\" is no string.");
     }
-    const std::string& to = newName.get_ref<const std::string&>();
+    const auto& to = newName.get_ref<const std::string&>();
     renames.push_back({oldName.data(), oldName.size(), to.data(), to.size()});
   }
   return renames;
