@@ -27,8 +27,8 @@
 ///
 /// **What an answer is not.** Only the syntax is checked. Whether a label, a property or a function
 /// exists is not known here. A filter is read as far as it is an expression; what stands behind a
-/// complete one may be dropped. A host that stores or runs the text it was given stores or runs more
-/// than was checked then. Renaming with no names returns the text that was.
+/// complete one may be dropped. A host that stores or runs the text it was given stores or runs
+/// more than was checked then. Renaming with no names returns the text that was.
 ///
 /// Nothing is kept between calls, so no memory grows and no call has to warm anything up. One thing
 /// is built once, by the first filter that is not valid from its first to its last character: the
