@@ -23,6 +23,7 @@ case "${1-}" in
     arm64) packages="g++-aarch64-linux-gnu qemu-user cmake ninja-build python3 xz-utils
                      googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev clang-14" ;;
     coverage) packages="gcovr" ;;
+    python) packages="python3-dev python3-venv binutils patchelf" ;;
     lint) packages="clang-format clang-tidy" ;;
     windows) packages="g++-mingw-w64-x86-64-posix wine64 cmake ninja-build python3 xz-utils
                        googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev clang-14 lld llvm" ;;
