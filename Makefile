@@ -9,8 +9,10 @@ OWN_CODE = $(shell git ls-files --cached --others --exclude-standard '*.h' '*.c'
 SECONDS := 60
 BENCH := build/bench
 FUZZ := build/fuzz
+PYTHON_BUILD := build/python/cmake
 MILLIONS := 2
 TEXTS := 200000
+PYTHON := python3
 
 help: ## list these targets
 	@sed -n 's/^\([a-z0-9-]*\):.*## /\1\t/p' $(MAKEFILE_LIST) | expand -t 22
@@ -95,6 +97,11 @@ fuzz: setup $(FUZZ)/build.ninja ## run each fuzzer for SECONDS=60
 	@cmake --build --preset fuzz --target vorn_fuzzers
 	@tools/fuzz.sh $(FUZZ) $(SECONDS)
 
+python: build ## build the Python package for PYTHON=python3 as a wheel, test it
+	@tools/install-packages.sh python
+	@tools/build-wheel.sh $(PYTHON)
+	@tools/test-python.sh $(PYTHON)
+
 package-windows: windows-test ## test the build for Windows and make a zip of it
 	@tools/package-windows.sh
 
@@ -163,11 +170,15 @@ package-deb: setup ## build Debian packages in build/packages, use them in a new
 	@tools/package-deb.sh
 	@packaging/test_packages.py
 
-lint: setup $(BUILD)/build.ninja $(BENCH)/build.ninja $(FUZZ)/build.ninja ## check the format and run clang-tidy
+$(PYTHON_BUILD)/build.ninja: | setup
+	@tools/install-packages.sh python
+	@tools/build-wheel.sh $(PYTHON) >/dev/null
+
+lint: setup $(BUILD)/build.ninja $(BENCH)/build.ninja $(FUZZ)/build.ninja $(PYTHON_BUILD)/build.ninja ## check the format and run clang-tidy
 	@tools/install-packages.sh lint
 	@test -n '$(OWN_CODE)' || { echo 'lint: git lists no sources.' >&2; exit 1; }
 	@clang-format --dry-run --Werror $(OWN_CODE)
-	@tools/run-clang-tidy.sh '$(BUILD) $(BENCH) $(FUZZ)' $(filter %.cpp,$(OWN_CODE))
+	@tools/run-clang-tidy.sh '$(BUILD) $(BENCH) $(FUZZ) $(PYTHON_BUILD)' $(filter %.cpp,$(OWN_CODE))
 
 format: ## bring the sources into format
 	@tools/install-packages.sh lint
