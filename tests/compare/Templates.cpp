@@ -37,6 +37,7 @@ constexpr const char* queries[] = {
     "UNWIND @E AS a @Q",
     "@Q UNION @Q",
     "@Q UNION ALL @Q",
+    "MATCH @P RETURN * UNION MATCH @P RETURN * ORDER BY @E UNION @Q",
     "CALL a",
     "CALL a.b",
     "CALL a()",

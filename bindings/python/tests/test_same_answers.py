@@ -42,17 +42,18 @@ def compare(
     assert len(answers) == len(requests)
     refused = 0
     for request, answer in zip(requests, answers):
-        answer.pop("dropped", None)
+        dropped = answer.pop("dropped", "")
         try:
             assert ask(request) == answer
+            if "expression" in request:
+                text = request["expression"]
+                assert text[vornlib.expression_end(text) :] == dropped
         except vornlib.CypherError as error:
             refused += 1
-            assert "error" in answer or answer["status"] == 1
-            if "error" in answer:
-                assert str(error) == answer["error"]["message"]
-                assert isinstance(error, vornlib.ForbiddenElementError) == (
-                    answer["error"]["kind"] == "forbidden"
-                )
+            assert str(error) == answer["error"]["message"]
+            if isinstance(error, vornlib.CypherSyntaxError):
+                assert (error.line, error.column) == (answer["error"]["line"], answer["error"]["column"])
+            assert isinstance(error, vornlib.ForbiddenElementError) == (answer["error"]["kind"] == "forbidden")
     assert 0 < refused < len(requests)
 
 
