@@ -146,9 +146,13 @@ std::string failureReport(const Failure& failure, const std::string& text, const
     return report;
   }
   report += syntaxErrorView(text, failure.place->offset);
-  std::optional<std::string> hint = hintForPath(text);
+  // What looks like a path may be openCypher with a typo, unless there is such a file.
+  std::optional<std::string> hint = hintForFile(text);
   if (!hint) {
     hint = hintFor(text, failure.place->offset, ask);
+  }
+  if (!hint) {
+    hint = hintForPath(text);
   }
   if (hint) {
     report += "Hint: " + escapeControls(*hint) + '\n';

@@ -331,7 +331,7 @@ std::optional<std::string> hintForPath(const std::string& text) {
       R"((?:[A-Z]:|\.\.?|~)?[\\/][^\n"`(){}<>*?|]*|[^\n"`(){}<>*?|]+\.(?:cypher|cyp|cql|txt))",
       std::regex_constants::icase);
   return text.size() <= longest && std::regex_match(text, shape) ? std::optional(adviceToRead(text))
-                                                                 : hintForFile(text);
+                                                                 : std::nullopt;
 }
 
 }  // namespace inspect

@@ -200,8 +200,8 @@ VORN_API std::map<WideString, VariableUsage> GetVariableUsagesInPropertyFilterOC
 /// Every occurrence of a variable is renamed, also inside the elements that
 /// GetVariableUsagesInPropertyFilterOCExpression rejects: this function does not validate. Nothing
 /// else is renamed: no property key, label, relationship type, function, procedure, parameter, key
-/// of a map, nor what a string or a comment holds. Text after a complete expression is treated as
-/// by GetVariableUsagesInPropertyFilterOCExpression.
+/// of a map, nor what a string or a comment holds. White space and comments behind the expression
+/// are left out. Other text there is treated as by GetVariableUsagesInPropertyFilterOCExpression.
 ///
 /// @param expression  The text of the filter. It is only read.
 /// @param renames     New names by old names. Back quotes make no difference, neither around an old

@@ -62,7 +62,8 @@ void tellOfErrors(antlr4::Recognizer& recognizer, antlr4::ANTLRErrorListener& li
 
 }  // namespace
 
-AntlrPipeline::AntlrPipeline(std::string_view utf8, antlr4::ANTLRErrorListener& errors)
+AntlrPipeline::AntlrPipeline(std::string_view utf8, antlr4::ANTLRErrorListener& errors,
+                             std::size_t bound)
     : input_(std::make_unique<antlr4::ANTLRInputStream>(utf8)) {
   buildRecogniserTables();
   lexer_ = std::make_unique<CypherLexer>(input_.get());
@@ -73,7 +74,7 @@ AntlrPipeline::AntlrPipeline(std::string_view utf8, antlr4::ANTLRErrorListener& 
   tokens_ = std::make_unique<antlr4::CommonTokenStream>(lexer_.get());
   parser_ = std::make_unique<LeakFreeParser>(tokens_.get());
   tellOfErrors(*parser_, errors);
-  parser_->setInterpreter(new CallPredictor(*parser_));
+  parser_->setInterpreter(new CallPredictor(*parser_, bound));
 }
 
 AntlrPipeline::~AntlrPipeline() = default;

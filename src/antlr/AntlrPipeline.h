@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string_view>
 
@@ -18,9 +19,13 @@ class CypherLexer;
 /// The ANTLR runtime's pipeline over one text, in which the first lexical or syntax error is fatal.
 class AntlrPipeline {
  public:
+  /// How many configurations prediction may reach in a filter.
+  static constexpr std::size_t usualBound = 100'000;
+
   /// The text and the listener, which must throw at each error, must outlive the pipeline.
   explicit AntlrPipeline(std::string_view utf8,
-                         antlr4::ANTLRErrorListener& errors = ThrowingErrorListener::instance());
+                         antlr4::ANTLRErrorListener& errors = ThrowingErrorListener::instance(),
+                         std::size_t bound = usualBound);
 
   AntlrPipeline(const AntlrPipeline&) = delete;
   AntlrPipeline& operator=(const AntlrPipeline&) = delete;

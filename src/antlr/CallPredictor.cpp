@@ -35,12 +35,12 @@ namespace {
 // takes 2 to 3 us. Drawn and damaged filters need 8,400 configurations at most, those of 500
 // operators 3,200, eight list comprehensions inside each other 24,000.
 constexpr std::size_t workOfConfiguration = 16;
-constexpr std::size_t maxWork = 100'000 * workOfConfiguration;
 
 }  // namespace
 
-CallPredictor::CallPredictor(antlr4::Parser& itsParser)
-    : ParserATNSimulator(&itsParser, itsParser.getATN(), noStates_, noContexts_) {
+CallPredictor::CallPredictor(antlr4::Parser& itsParser, std::size_t maxConfigurations)
+    : ParserATNSimulator(&itsParser, itsParser.getATN(), noStates_, noContexts_),
+      maxWork_(maxConfigurations * workOfConfiguration) {
   _dfa = nullptr;  // the base class leaves it undefined
 }
 
@@ -220,7 +220,7 @@ CallPredictor::Context CallPredictor::contextOf(const antlr4::RuleContext* inner
 
 void CallPredictor::spend(std::size_t work) {
   work_ += work;
-  if (work_ > maxWork) {
+  if (work_ > maxWork_) {
     throw std::length_error("the openCypher text takes too long to be understood");
   }
 }

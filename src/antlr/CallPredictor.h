@@ -17,7 +17,8 @@ namespace vorn {
 /// what it can; the rest is simulated, which throws std::length_error where it takes too long.
 class CallPredictor final : public antlr4::atn::ParserATNSimulator {
  public:
-  explicit CallPredictor(antlr4::Parser& itsParser);
+  /// The bound holds for all predictions together.
+  CallPredictor(antlr4::Parser& itsParser, std::size_t maxConfigurations);
 
   CallPredictor(const CallPredictor&) = delete;
   CallPredictor& operator=(const CallPredictor&) = delete;
@@ -65,6 +66,7 @@ class CallPredictor final : public antlr4::atn::ParserATNSimulator {
   std::deque<State> states_;
   std::unordered_map<std::size_t, State*> starts_;  // by decision
   std::vector<std::pair<const antlr4::RuleContext*, Context>> openRules_;
+  std::size_t maxWork_;
   std::size_t work_ = 0;
 };
 

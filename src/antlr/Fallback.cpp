@@ -36,9 +36,11 @@ void parseExpressionByAntlr(SyntaxTree& tree, antlr4::ANTLRErrorListener& errors
 }
 
 void findErrorInQueryByAntlr(const SyntaxTree& tree, antlr4::ANTLRErrorListener& errors) {
+  // A query holds several filters. The function that answers by a status alone never comes here.
+  constexpr std::size_t bound = 4 * AntlrPipeline::usualBound;
   try {
     refuseTooDeep(tree.types.data(), tree.tokenCount());
-    AntlrPipeline(tree.text, errors).parseQuery();
+    AntlrPipeline(tree.text, errors, bound).parseQuery();
   } catch (const std::length_error&) {  // NOLINT(bugprone-empty-catch): the contract
   }
 }

@@ -27,9 +27,7 @@ struct InUtf8 {
   static constexpr auto renamed = vorn_renamed_utf8;
 
   static String from(std::string_view text) { return String(text); }
-  static std::string narrow(const Unit* first, std::size_t length) {
-    return std::string(first, length);
-  }
+  static std::string narrow(const Unit* first, std::size_t length) { return {first, length}; }
 };
 
 struct InUtf16 {
@@ -55,7 +53,8 @@ struct InUtf16 {
   }
   static std::string narrow(const Unit* first, std::size_t length) {
     std::string text;
-    utf8::utf16to8(first, first + length, std::back_inserter(text));
+    utf8::utf16to8(first, std::next(first, static_cast<std::ptrdiff_t>(length)),
+                   std::back_inserter(text));
     return text;
   }
 };
@@ -65,7 +64,8 @@ template <typename Functions, typename Accessor, typename... Places>
 std::string string(const Accessor& accessor, const vorn_answer* answer, Places... places) {
   std::size_t length = 0;
   const typename Functions::Unit* const first = accessor(answer, places..., &length);
-  if (first == nullptr || first[length] != 0 || accessor(answer, places..., nullptr) != first) {
+  if (first == nullptr || *std::next(first, static_cast<std::ptrdiff_t>(length)) != 0 ||
+      accessor(answer, places..., nullptr) != first) {
     throw std::logic_error("this is no string");
   }
   return Functions::narrow(first, length);

@@ -4,6 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -31,14 +35,15 @@ vorn_answer* inUtf8(const std::string& text) {
 
 template <auto function>
 vorn_answer* inUtf16(const std::string& ascii) {
-  static std::uint16_t units[256];
-  std::copy(ascii.begin(), ascii.end(), units);
-  return function(units, ascii.size());
+  static std::array<std::uint16_t, 256> units;
+  std::copy(ascii.begin(), ascii.end(), units.begin());
+  return function(units.data(), ascii.size());
 }
 
 vorn_answer* renaming(const std::string& text) {
-  const vorn_rename_pair_utf8 pairs[] = {{"n", 1, "a name of some length", 21}, {"`m`", 3, "o", 1}};
-  return vorn_rename_utf8(text.data(), text.size(), pairs, 2);
+  const std::array<vorn_rename_pair_utf8, 2> pairs = {
+      {{"n", 1, "a name of some length", 21}, {"`m`", 3, "o", 1}}};
+  return vorn_rename_utf8(text.data(), text.size(), pairs.data(), pairs.size());
 }
 
 vorn_answer* badPair(const std::string& text) {
@@ -168,7 +173,9 @@ TEST(WithoutMemory, TheAnswerSaysSoInItsEncoding) {
   EXPECT_EQ(vorn_error_kind(second), VORN_OUT_OF_MEMORY);
   std::size_t length = 0;
   const std::uint16_t* const message = vorn_error_message_utf16(second, &length);
-  EXPECT_EQ(std::string(message, message + length + 1), std::string("memory ran out", 15));
+  const std::string expected = std::string("memory ran out") + '\0';
+  EXPECT_TRUE(std::equal(expected.begin(), expected.end(), message));
+  EXPECT_EQ(length, expected.size() - 1);
   EXPECT_EQ(vorn_renamed_utf16(second, nullptr), nullptr);
   // They belong to nobody, so they may be released by each who got them.
   vorn_release(first);

@@ -154,6 +154,10 @@ class FileNames(InspectTest):
             self.assertEqual(result.status, 0)
             self.assertEqual(result.error, "Note: To read a file, write --file n.cypher\n")
 
+    def test_do_not_stand_in_the_way_of_other_hints(self) -> None:
+        self.assertEqual(hints("columns", "RETRUN n.txt"), hints("columns", "RETRUN n"))
+        self.assertEqual(len(hints("columns", "RETRUN n.txt")), 1)
+
     def test_are_not_seen_in_other_texts(self) -> None:
         for text in ["a/b", "RETURN 1 / 2 /", "MATCH (a.txt", "n.a"]:
             for hint in hints("columns", text):

@@ -187,8 +187,9 @@ VORN_C_API vorn_answer* vorn_usages_utf16(const uint16_t* expression, size_t len
 /**
  * Renames variables in a property filter and leaves every other character as it is written.
  *
- * Every occurrence is renamed, also inside the elements that vorn_usages_utf8() refuses. Text
- * behind the expression is treated as there. Back quotes make no difference, neither around an old
+ * Every occurrence is renamed, also inside the elements that vorn_usages_utf8() refuses. White
+ * space and comments behind the expression are left out; other text there is treated as by
+ * vorn_usages_utf8(). Back quotes make no difference, neither around an old
  * name nor around a variable in the text. A new name that begins with a back quote is used as it
  * is, unchecked; any other one is put between back quotes, those inside it doubled. If two old
  * names mean one variable, the later one in the array wins.
