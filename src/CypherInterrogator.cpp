@@ -121,15 +121,13 @@ bool isAccepted(SyntaxTree& query) {
   return verdict == Verdict::Accepted;
 }
 
-[[noreturn]] void refuse() {
-  throw antlr4::ParseCancellationException("the text is no openCypher query");
-}
+constexpr const char* refusal = "the text is no openCypher query";
 
 }  // namespace
 
 CypherInterrogator::CypherInterrogator(const WideString& query) : InterrogatorBase(query) {
   if (!isAccepted(tree)) {
-    refuse();
+    throw antlr4::ParseCancellationException(refusal);
   }
 }
 
@@ -137,7 +135,7 @@ CypherInterrogator::CypherInterrogator(std::string_view query, antlr4::ANTLRErro
     : InterrogatorBase(query) {
   if (!isAccepted(tree)) {
     findErrorInQueryByAntlr(tree, errors);
-    refuse();
+    throw antlr4::ParseCancellationException(refusal);
   }
 }
 
