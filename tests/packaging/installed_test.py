@@ -62,7 +62,8 @@ class Installed(HostTest):
         self.put_c_host()
         flags = self.pkg_config("--cflags", "--libs", package="vorn_c")
         (libraries,) = self.pkg_config("--variable=libdir", package="vorn_c")
-        self.run_command("cc", "-std=c99", "columns.c", *flags, f"-Wl,-rpath,{libraries}", "-o", "columns")
+        own = os.environ.get("CFLAGS", "").split()
+        self.run_command("cc", "-std=c99", *own, "columns.c", *flags, f"-Wl,-rpath,{libraries}", "-o", "columns")
         self.check_c_host("columns")
         self.assertEqual(self.pkg_config("--modversion", package="vorn_c"), [VERSION])
 
