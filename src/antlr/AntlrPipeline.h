@@ -19,7 +19,8 @@ class CypherLexer;
 /// The ANTLR runtime's pipeline over one text, in which the first lexical or syntax error is fatal.
 class AntlrPipeline {
  public:
-  /// How many configurations prediction may reach in a filter.
+  /// How many configurations prediction may reach in a filter. Drawn and damaged filters need 8,400
+  /// at most, those of 500 operators 3,200, eight list comprehensions inside each other 24,000.
   static constexpr std::size_t usualBound = 100'000;
 
   /// The text and the listener, which must throw at each error, must outlive the pipeline.

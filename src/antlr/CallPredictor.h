@@ -66,8 +66,7 @@ class CallPredictor final : public antlr4::atn::ParserATNSimulator {
   std::deque<State> states_;
   std::unordered_map<std::size_t, State*> starts_;  // by decision
   std::vector<std::pair<const antlr4::RuleContext*, Context>> openRules_;
-  std::size_t maxWork_;
-  std::size_t work_ = 0;
+  std::size_t workLeft_;
 };
 
 }  // namespace vorn
