@@ -17,17 +17,8 @@ std::string toLine(const OrderedJson& answer, const std::string& id) {
   return escapeControlsInJson(json) + '\n';
 }
 
-JsonAnswer refusal(const Failure& failure, const std::string& id) {
-  OrderedJson json;
-  json["error"] = toJson(failure);
-  return {toLine(json, id), false};
-}
-
-JsonAnswer failedAnswer(const Failure& failure, const Command& command, const std::string& id) {
-  OrderedJson json;
-  if (!command.takesFilter) {
-    json["status"] = 1;
-  }
+// `json` holds what stands before the error.
+JsonAnswer refusal(const Failure& failure, const std::string& id, OrderedJson json = {}) {
   json["error"] = toJson(failure);
   return {toLine(json, id), false};
 }
@@ -37,7 +28,8 @@ JsonAnswer answerTo(const Json& request, const Command& command, const std::stri
     const Analysis analysis = command.ask(request);
     const std::string& text = textMember(request, command.textMember);
     if (const auto failure = failureOf(analysis, text)) {
-      return failedAnswer(*failure, command, id);
+      return refusal(*failure, id,
+                     command.takesFilter ? OrderedJson() : OrderedJson{{"status", 1}});
     }
     OrderedJson json = command.json(analysis);
     const std::string_view dropped = droppedFrom(text, analysis, command);

@@ -163,7 +163,8 @@ class Refused {
       return "A text holds one statement, with one semicolon at most.";
     }
     for (const Rule& rule : rules) {
-      if (const std::optional<Range> range = lastMatch(rule); range && helps(*range, rule)) {
+      if (const std::optional<Range> range = lastMatch(rule);
+          range && helps(*range, rule.replacement)) {
         return hintOf(rule, *range);
       }
     }
@@ -212,10 +213,6 @@ class Refused {
                                       ? std::max(offset_, range.start + replacement.size())
                                       : offset_ - (range.end - range.start) + replacement.size();
     return isAnsweredBeyond(samePlace, changed);
-  }
-
-  [[nodiscard]] bool helps(Range range, const Rule& rule) const {
-    return helps(range, rule.replacement);
   }
 
   // Of a filter more has to be read, and not only more to be dropped.
