@@ -152,6 +152,23 @@ std::size_t lengthIn(Encoding encoding, std::string_view text) {
   return encoding == Encoding::Utf8 ? text.size() : InUtf16::from(text).size();
 }
 
+std::string lineOf(const Variable& variable) {
+  std::string line = variable.name + " written";
+  for (const std::string& form : variable.writtenForms) {
+    line += " " + form;
+  }
+  for (const Access& access : variable.accesses) {
+    line += " reads";
+    for (const std::string& key : access.properties) {
+      line += " ." + key;
+    }
+    for (const std::string& label : access.labels) {
+      line += " :" + label;
+    }
+  }
+  return line;
+}
+
 std::string lineOf(const Told& told) {
   std::string line = std::to_string(told.error) + " at " + std::to_string(told.line) + ":" +
                      std::to_string(told.column) + " " + told.message + " " + told.element;
@@ -159,19 +176,7 @@ std::string lineOf(const Told& told) {
     line += ", " + name + " " + std::to_string(type);
   }
   for (const Variable& variable : told.variables) {
-    line += ", " + variable.name + " written";
-    for (const std::string& form : variable.writtenForms) {
-      line += " " + form;
-    }
-    for (const Access& access : variable.accesses) {
-      line += " reads";
-      for (const std::string& key : access.properties) {
-        line += " ." + key;
-      }
-      for (const std::string& label : access.labels) {
-        line += " :" + label;
-      }
-    }
+    line += ", " + lineOf(variable);
   }
   return line + (told.renamed ? ", " + *told.renamed : "");
 }

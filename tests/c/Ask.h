@@ -49,6 +49,7 @@ struct Told {
 
 /// Everything in one line.
 std::string lineOf(const Told& told);
+std::string lineOf(const Variable& variable);
 
 /// Asks and releases the answer. The text and the names, well-formed UTF-8, are brought into the
 /// encoding before.

@@ -6,18 +6,11 @@
 #include <utility>
 
 #include "Ask.h"
+#include "nesting/Repeated.h"
 
 using namespace c_interface;
 
 namespace {
-
-std::string repeated(std::string_view text, std::size_t times) {
-  std::string all;
-  for (std::size_t i = 0; i != times; ++i) {
-    all += text;
-  }
-  return all;
-}
 
 class CErrors : public testing::TestWithParam<Encoding> {
  protected:
@@ -36,6 +29,11 @@ class CErrors : public testing::TestWithParam<Encoding> {
 
 INSTANTIATE_TEST_SUITE_P(In, CErrors, testing::Values(Encoding::Utf8, Encoding::Utf16),
                          testing::PrintToStringParamName());
+
+TEST_P(CErrors, TellThePlaceInAQueryOfManyConditions) {
+  const std::string before = "MATCH (n) WHERE " + repeated("(n.a=1) AND ", 200) + "n.b = 1 ";
+  expectPlace(columns(before + "RETRUN n"), 1, before.size(), before);
+}
 
 TEST_P(CErrors, TellTheRuntimesWordsForAWrongQuery) {
   const Told told = columns("MATCH (n) RETRUN n");

@@ -70,20 +70,7 @@ std::string toldAsInCpp(const Question& question, const Told& told) {
   }
   std::string line;
   for (const Variable& variable : told.variables) {
-    line += variable.name + " written";
-    for (const std::string& form : variable.writtenForms) {
-      line += " " + form;
-    }
-    for (const Access& access : variable.accesses) {
-      line += " reads";
-      for (const std::string& key : access.properties) {
-        line += " ." + key;
-      }
-      for (const std::string& label : access.labels) {
-        line += " :" + label;
-      }
-    }
-    line += ", ";
+    line += lineOf(variable) + ", ";
   }
   return line;
 }
