@@ -188,11 +188,11 @@ def rename(expression: str, names: Mapping[str, str]) -> str:
     >>> rename("n.age > 30 AND n.name = 'n'", {"n": "m"})
     "`m`.age > 30 AND `m`.name = 'n'"
 
-    Every occurrence is renamed, also inside elements that `usages` refuses. What stands
-    behind the expression is left out, white space and comments too. Back quotes make no difference, neither around an old name
-    nor around a variable in the text. A new name that begins with a back quote is used as it is,
-    unchecked; any other one is put between back quotes, those inside it doubled. If two old names
-    mean one variable, the later one in `names` wins.
+    Every occurrence is renamed, also inside elements that `usages` refuses. What stands behind the
+    expression is left out, white space and comments too. Back quotes make no difference, neither
+    around an old name nor around a variable in the text. A new name that begins with a back quote is
+    used as it is, unchecked; any other one is put between back quotes, those inside it doubled. If
+    two old names mean one variable, the later one in `names` wins.
 
     Raises any error but `ForbiddenElementError`.
     """
