@@ -77,6 +77,7 @@ windows: ## cross-build library, programs and tests for 64-bit Windows
 	@cmake --build --preset windows
 
 windows-test: build windows ## run all tests for 64-bit Windows under Wine
+	@cmake --build --preset release --target c_host
 	@tools/test-under-wine.sh
 
 arm64: ## cross-build library, programs and tests for Linux on 64-bit ARM

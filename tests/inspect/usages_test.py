@@ -102,7 +102,7 @@ class Usages(InspectTest):
     def test_tell_what_was_dropped(self) -> None:
         for text, dropped in [("n.a = 1 RETURN n", "RETURN n"), ("n.a)", ")"), ("n)'\x1b'", ")'\\u001b'")]:
             result = run("usages", text)
-            self.assertEqual(result.status, 0)
+            self.assertEqual(result.status, 0, result.error)
             self.assertIn("n ", result.output)
             self.assertEqual(result.error, f"Note: The end of the filter was dropped: {dropped}\n")
         self.assertEqual(
