@@ -23,6 +23,10 @@ JsonAnswer refusal(const Failure& failure, const std::string& id, OrderedJson js
   return {toLine(json, id), false};
 }
 
+std::string idOf(const Json& request, const std::string& line) {
+  return request.is_object() && request.contains("id") ? memberAsWritten(line, "id") : "";
+}
+
 JsonAnswer answerTo(const Json& request, const Command& command, const std::string& id) {
   try {
     const Analysis analysis = command.ask(request);
@@ -57,8 +61,10 @@ JsonAnswer answerTo(const Json& request, const Command& command) {
 JsonAnswer answerToLine(const std::string& line, const Command& command) {
   try {
     const Json request = parseRequest(line);
-    const bool hasId = request.is_object() && request.contains("id");
-    return answerTo(request, command, hasId ? memberAsWritten(line, "id") : "");
+    return answerTo(request, command, idOf(request, line));
+  } catch (const NotWellFormed& error) {
+    const std::string& mended = error.mendedLine();
+    return refusal({kinds::notWellFormed, error.what(), {}}, idOf(Json::parse(mended), mended));
   } catch (const InputError& error) {
     return refusal({kinds::input, error.what(), {}});
   } catch (const std::bad_alloc&) {

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -107,6 +108,18 @@ std::string adviceOnCommand(const std::vector<std::string>& unexpected) {
   return word == unexpected.end() ? choice : "'" + *word + "' is no command; " + choice;
 }
 
+// A pair behind the one of --map is meant to be renamed too, and is taken for the text.
+std::optional<std::string> pairWithoutMap(const std::vector<std::string>& arguments) {
+  for (std::size_t i = 0; i + 2 < arguments.size(); ++i) {
+    const std::string& behind = arguments[i + 2];
+    if (arguments[i] == "--map" && !beginsWithDash(behind) &&
+        behind.find('=') != std::string::npos && behind.find(' ') == std::string::npos) {
+      return behind;
+    }
+  }
+  return std::nullopt;
+}
+
 std::string adviceOnUnexpected(const std::vector<std::string>& unexpected,
                                const std::vector<std::string>& arguments) {
   const auto endOfOptions = std::find(arguments.begin(), arguments.end(), "--");
@@ -120,6 +133,10 @@ std::string adviceOnUnexpected(const std::vector<std::string>& unexpected,
   if (!options.empty()) {
     return (options.size() == 1 ? "unknown option " : "unknown options ") + quotedList(options) +
            " (put -- before a text that begins with a dash)";
+  }
+  if (const auto pair = pairWithoutMap(arguments)) {
+    return "give each variable a --map of its own, as in --map a=b --map c=d, and not '" + *pair +
+           "' alone";
   }
   return (unexpected.size() == 1 ? "unexpected argument " : "unexpected arguments ") +
          quotedList(unexpected) + " (put a text with blanks in it between quotes)";
@@ -136,6 +153,9 @@ std::string adviceOn(const CLI::ParseError& error, const CLI::App& program,
   }
   if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
     return adviceOnUnexpected(unexpected, arguments);
+  }
+  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+    return "give --file one FILE and each --map one OLD=NEW, and the other options nothing";
   }
   return error.what();
 }

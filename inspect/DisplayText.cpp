@@ -11,7 +11,13 @@ namespace inspect {
 
 namespace {
 
-// Joiners are parts of emoji and of words in some scripts.
+// Joiners and variation selectors are parts of emoji and of words in some scripts.
+bool isPartOfWords(char32_t character) {
+  return character == U'\u200C' || character == U'\u200D' || character == U'\uFE0E' ||
+         character == U'\uFE0F';
+}
+
+// What is shown as nothing, as the Hangul fillers are, would hide in a name.
 bool needsEscape(char32_t character) {
   switch (utf8proc_category(static_cast<utf8proc_int32_t>(character))) {
     case UTF8PROC_CATEGORY_CC:
@@ -19,9 +25,10 @@ bool needsEscape(char32_t character) {
     case UTF8PROC_CATEGORY_ZP:
       return true;
     case UTF8PROC_CATEGORY_CF:
-      return character != U'\u200C' && character != U'\u200D';
+      return !isPartOfWords(character);
     default:
-      return false;
+      return utf8proc_get_property(static_cast<utf8proc_int32_t>(character))->ignorable != 0 &&
+             !isPartOfWords(character);
   }
 }
 

@@ -132,6 +132,45 @@ std::string withShortList(const std::string& message) {
              : message;
 }
 
+constexpr std::string_view upToThePlace = "no viable alternative at input '";
+
+// Where the text begins that the runtime quotes in a message, or npos.
+std::size_t quoteStart(const std::string& message) {
+  for (const std::string_view start : {upToThePlace, std::string_view("extraneous input '"),
+                                       std::string_view("mismatched input '"),
+                                       std::string_view("token recognition error at: '")}) {
+    if (message.rfind(start, 0) == 0) {
+      return start.size();
+    }
+  }
+  constexpr std::string_view beforeToken = " at '";
+  const std::size_t place = message.rfind("missing ", 0) == 0 ? message.find(beforeToken) : npos;
+  return place == npos ? npos : place + beforeToken.size();
+}
+
+// The runtime may quote all of a text, or a token however long. What it quotes up to the place of
+// the error keeps its end, all else its beginning.
+std::string withShortQuote(const std::string& message) {
+  constexpr std::size_t most = 60;
+  const std::size_t start = quoteStart(message);
+  if (start == npos) {
+    return message;
+  }
+  const bool endsAtPlace = start == upToThePlace.size() && message.rfind(upToThePlace, 0) == 0;
+  const std::size_t end = message.rfind('\'', endsAtPlace ? npos : message.rfind("' expecting "));
+  const auto clusters = graphemeClusters(std::string_view(message).substr(start, end - start));
+  if (clusters.size() <= most) {
+    return message;
+  }
+  std::string quote;
+  const std::size_t first = endsAtPlace ? clusters.size() - most : 0;
+  for (std::size_t i = first; i != first + most; ++i) {
+    quote += clusters[i];
+  }
+  quote = endsAtPlace ? "..." + quote : quote + "...";
+  return message.substr(0, start) + quote + message.substr(end);
+}
+
 }  // namespace
 
 std::string failureReport(const Failure& failure, const std::string& text, const Command& command,
@@ -140,7 +179,8 @@ std::string failureReport(const Failure& failure, const std::string& text, const
     return "The " + std::string(command.textNoun) + " is empty.\n";
   }
   std::string report =
-      escapeControls(wholeMessage({failure.kind, withShortList(failure.message), failure.place})) +
+      escapeControls(wholeMessage(
+          {failure.kind, withShortQuote(withShortList(failure.message)), failure.place})) +
       '\n';
   if (!failure.place) {
     return report;

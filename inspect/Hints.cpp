@@ -301,7 +301,15 @@ class Refused {
   std::string skeleton_;
 };
 
-std::string adviceToRead(const std::string& path) { return "To read a file, write --file " + path; }
+// Between quotation marks, if a shell would not take it for one argument as it is.
+std::string adviceToRead(const std::string& path) {
+  const bool plain = std::all_of(path.begin(), path.end(), [](char character) {
+    return isWordPart(character) ||
+           std::string_view("./:~-").find(character) != std::string_view::npos ||
+           static_cast<unsigned char>(character) >= 0x80U;
+  });
+  return "To read a file, write --file " + (plain ? path : '"' + path + '"');
+}
 
 }  // namespace
 
@@ -324,8 +332,9 @@ std::optional<std::string> hintForFile(const std::string& text) {
 std::optional<std::string> hintForPath(const std::string& text) {
   // Of a longer text a search would take more stack than there is.
   constexpr std::size_t longest = 1024;
+  // Without an extension no path has blanks: it could be any text behind a slash.
   static const std::regex shape(
-      R"((?:[A-Z]:|\.\.?|~)?[\\/][^\n"`(){}<>*?|]*|[^\n"`(){}<>*?|]+\.(?:cypher|cyp|cql|txt))",
+      R"((?:[A-Z]:|\.\.?|~)?[\\/][^\s"`(){}<>*?|]+|[^\n"`(){}<>*?|]+\.(?:cypher|cyp|cql|txt))",
       std::regex_constants::icase);
   return text.size() <= longest && std::regex_match(text, shape) ? std::optional(adviceToRead(text))
                                                                  : std::nullopt;

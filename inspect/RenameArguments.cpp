@@ -1,6 +1,8 @@
 #include "RenameArguments.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <set>
 #include <string_view>
 #include <utility>
 
@@ -23,11 +25,17 @@ std::size_t findOutsideBackQuotes(std::string_view text, char wanted, std::size_
   return std::string_view::npos;
 }
 
-// Of a name with both a comma and an equals sign, somebody may have meant two names.
+// A name with an equals sign behind a comma or a blank may be meant as two names.
 bool listsSeveral(std::string_view argument, std::size_t equals) {
-  const std::size_t comma = findOutsideBackQuotes(argument, ',', equals + 1);
-  return comma != std::string_view::npos &&
-         findOutsideBackQuotes(argument, '=', comma + 1) != std::string_view::npos;
+  const std::size_t separator = std::min(findOutsideBackQuotes(argument, ',', equals + 1),
+                                         findOutsideBackQuotes(argument, ' ', equals + 1));
+  return separator != std::string_view::npos &&
+         findOutsideBackQuotes(argument, '=', separator + 1) != std::string_view::npos;
+}
+
+// A variable has one name, with back quotes or without.
+std::string nameInQuotes(const std::string& name) {
+  return name.front() == '`' ? name : '`' + name + '`';
 }
 
 std::pair<std::string, std::string> parseRenameArgument(std::string_view argument) {
@@ -37,10 +45,9 @@ std::pair<std::string, std::string> parseRenameArgument(std::string_view argumen
                      std::string(argument) + "'.");
   }
   if (listsSeveral(argument, equals)) {
-    throw UsageError(
-        "give each variable a --map of its own, as in --map a=b --map c=d, and not '" +
-        std::string(argument) +
-        "'; put a new name that holds a comma and an equals sign between back quotes.");
+    throw UsageError("give each variable a --map of its own, as in --map a=b --map c=d, and not '" +
+                     std::string(argument) +
+                     "'; put a new name that holds an equals sign between back quotes.");
   }
   return {std::string(argument.substr(0, equals)), std::string(argument.substr(equals + 1))};
 }
@@ -49,10 +56,11 @@ std::pair<std::string, std::string> parseRenameArgument(std::string_view argumen
 
 Json renamesFrom(const std::vector<std::string>& arguments) {
   Json renames = Json::object();
+  std::set<std::string> renamed;
   for (const std::string& argument : arguments) {
     requireUtf8(argument, "a name for --map");
     auto [oldName, newName] = parseRenameArgument(argument);
-    if (renames.contains(oldName)) {
+    if (!renamed.insert(nameInQuotes(oldName)).second) {
       throw UsageError("give each variable one new name; '" + oldName + "' has two.");
     }
     renames[oldName] = std::move(newName);

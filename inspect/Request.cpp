@@ -50,6 +50,39 @@ int depthChange(std::string_view token) {
   return token == "}" || token == "]" ? -1 : 0;
 }
 
+constexpr std::size_t escapeSize = 6;  // of \u and four digits
+
+// Whether the text begins with the escape of a surrogate whose second digit is one of those.
+bool beginsWithSurrogate(std::string_view text, std::string_view secondDigits) {
+  return text.size() >= escapeSize && text.substr(0, 2) == "\\u" &&
+         (text[2] == 'd' || text[2] == 'D') && secondDigits.find(text[3]) != std::string_view::npos;
+}
+
+std::string withWholeSurrogatePairs(std::string_view json) {
+  constexpr std::string_view high = "89abAB";
+  constexpr std::string_view low = "cdefCDEF";
+  std::string whole;
+  while (!json.empty()) {
+    std::size_t size = json.front() == '\\' ? 2 : 1;
+    if (beginsWithSurrogate(json, high) && beginsWithSurrogate(json.substr(escapeSize), low)) {
+      size = 2 * escapeSize;
+    } else if (beginsWithSurrogate(json, high) || beginsWithSurrogate(json, low)) {
+      whole += "\\ufffd";
+      json.remove_prefix(escapeSize);
+      continue;
+    }
+    whole += json.substr(0, size);
+    json.remove_prefix(std::min(size, json.size()));
+  }
+  return whole;
+}
+
+std::string mended(const std::string& line) {
+  std::string utf8;
+  utf8::replace_invalid(line.begin(), line.end(), std::back_inserter(utf8));
+  return withWholeSurrogatePairs(utf8);
+}
+
 }  // namespace
 
 Json parseRequest(const std::string& line) {
@@ -59,9 +92,15 @@ Json parseRequest(const std::string& line) {
   } catch (const Json::parse_error& error) {
     const auto invalid = utf8::find_invalid(line.begin(), line.end());
     const auto valid = static_cast<std::size_t>(std::distance(line.begin(), invalid));
-    throw InputError(valid < line.size()
-                         ? "The line is not UTF-8: see byte " + std::to_string(valid + 1) + "."
-                         : "The line is no JSON: see byte " + std::to_string(error.byte) + ".");
+    const std::string notUtf8 =
+        "The line is not UTF-8: see byte " + std::to_string(valid + 1) + ".";
+    const std::string place = "see byte " + std::to_string(error.byte) + ".";
+    if (std::string mendedLine = mended(line); Json::accept(mendedLine)) {
+      throw NotWellFormed(
+          valid < line.size() ? notUtf8 : "The line holds half a surrogate pair: " + place,
+          std::move(mendedLine));
+    }
+    throw InputError(valid < line.size() ? notUtf8 : "The line is no JSON: " + place);
   } catch (const Json::exception&) {
     throw InputError("The line holds a number that is out of range.");
   }

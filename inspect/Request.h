@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace inspect {
 
@@ -19,7 +20,21 @@ class InputError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// The JSON value that one line holds. Throws InputError.
+/// A request that would be one if its text were well formed.
+class NotWellFormed : public InputError {
+ public:
+  NotWellFormed(const std::string& message, std::string mendedLine)
+      : InputError(message), mendedLine_(std::move(mendedLine)) {}
+
+  /// The line with U+FFFD in place of what is wrong.
+  [[nodiscard]] const std::string& mendedLine() const { return mendedLine_; }
+
+ private:
+  std::string mendedLine_;
+};
+
+/// The JSON value that one line holds. Throws InputError, and NotWellFormed where UTF-8 is broken
+/// or an escape is half a surrogate pair, but the line is JSON otherwise.
 Json parseRequest(const std::string& line);
 
 /// The value of that member of a line which holds an object that has it, without white space around

@@ -1,6 +1,7 @@
 #include "SyntaxErrorView.h"
 
 #include <iterator>
+#include <vector>
 
 #include "DisplayText.h"
 
@@ -18,16 +19,51 @@ std::string_view lineAround(std::string_view text, std::size_t place) {
   return text.substr(0, text.find('\n'));
 }
 
-// A place inside a grapheme cluster is shown under the whole of it.
-std::string_view clustersBefore(std::string_view line, std::size_t place) {
-  std::size_t end = 0;
-  for (const std::string_view cluster : graphemeClusters(line)) {
-    if (end + cluster.size() > place) {
+using Clusters = std::vector<std::string_view>;
+
+// How many bytes of the clusters, one after the other, fit into that many columns.
+template <typename Iterator>
+std::size_t sizeWithin(std::size_t columns, Iterator cluster, Iterator end) {
+  std::size_t size = 0;
+  for (; cluster != end; ++cluster) {
+    const std::size_t width = displayWidth(escapeControls(*cluster));
+    if (width > columns) {
       break;
     }
-    end += cluster.size();
+    columns -= width;
+    size += cluster->size();
   }
-  return line.substr(0, end);
+  return size;
+}
+
+/// What is shown of a line, on both sides of the place.
+struct Window {
+  std::string_view before;
+  std::string_view behind;
+  bool isCutBefore = false;
+  bool isCutBehind = false;
+};
+
+// A place inside a grapheme cluster is shown under the whole of it.
+Window windowAround(std::string_view line, std::size_t place) {
+  constexpr std::size_t widestLine = 76;
+  constexpr std::size_t columnsBefore = 40;
+  constexpr std::size_t columnsBehind = 30;
+  const Clusters clusters = graphemeClusters(line);
+  std::size_t size = 0;
+  auto here = clusters.begin();
+  while (here != clusters.end() && size + here->size() <= place) {
+    size += here++->size();
+  }
+  const Window all{line.substr(0, size), line.substr(size)};
+  if (sizeWithin(widestLine, clusters.begin(), clusters.end()) == line.size()) {
+    return all;
+  }
+  const std::size_t before = sizeWithin(columnsBefore, std::make_reverse_iterator(here),
+                                        std::make_reverse_iterator(clusters.begin()));
+  const std::size_t behind = sizeWithin(columnsBehind, here, clusters.end());
+  return {all.before.substr(size - before), all.behind.substr(0, behind), before < size,
+          behind < all.behind.size()};
 }
 
 // Tabs stay, so that both lines reach the same tab stops; what stands between them is passed on.
@@ -55,14 +91,19 @@ std::string syntaxErrorView(std::string_view text, std::size_t place) {
   }
   std::string_view line = lineAround(text, place);
   const auto column = place - static_cast<std::size_t>(std::distance(text.begin(), line.begin()));
-  const std::string_view before = clustersBefore(line, column);
-  if (!line.empty() && line.back() == '\r' && before.size() < line.size()) {
+  if (!line.empty() && line.back() == '\r' && column < line.size()) {
     line.remove_suffix(1);
   }
+  const Window shown = windowAround(line, column);
+  constexpr std::string_view cut = "...";
+  const std::string start(shown.isCutBefore ? cut : "");
   std::string view(indent);
-  view += keepingTabs(line, escapeControls) + '\n';
+  view +=
+      start + keepingTabs(shown.before, escapeControls) + keepingTabs(shown.behind, escapeControls);
+  view += shown.isCutBehind ? cut : "";
+  view += '\n';
   view += indent;
-  view += keepingTabs(before, blanksFor) + "^\n";
+  view += blanksFor(start) + keepingTabs(shown.before, blanksFor) + "^\n";
   return view;
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <forward_list>
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -134,7 +135,12 @@ CypherInterrogator::CypherInterrogator(const WideString& query) : InterrogatorBa
 CypherInterrogator::CypherInterrogator(std::string_view query, antlr4::ANTLRErrorListener& errors)
     : InterrogatorBase(query) {
   if (!isAccepted(tree)) {
-    findErrorInQueryByAntlr(tree, errors);
+    try {
+      findErrorInQueryByAntlr(tree, errors);
+    } catch (const std::length_error& reason) {
+      throw antlr4::ParseCancellationException(
+          std::string(refusal) + "; the place of its error is unknown: " + reason.what());
+    }
     throw antlr4::ParseCancellationException(refusal);
   }
 }

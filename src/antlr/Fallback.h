@@ -15,7 +15,7 @@ struct SyntaxTree;
 void parseExpressionByAntlr(SyntaxTree& tree, antlr4::ANTLRErrorListener& errors);
 
 /// Tells the listener, which must throw, of the first error in a query that the compiled parser
-/// refuses. Returns if the text nests too deeply or takes too long for the error to be found.
+/// refuses. Throws std::length_error if the text nests too deeply for the stack or takes too long.
 void findErrorInQueryByAntlr(const SyntaxTree& tree, antlr4::ANTLRErrorListener& errors);
 
 }  // namespace vorn

@@ -114,16 +114,19 @@ TEST_P(CErrors, RefuseAFilterThatTakesTooMuchWork) {
 
 // That it is wrong is known: only its place is not looked for.
 TEST_P(CErrors, TellOfAWrongQueryThatCannotBeSearched) {
-  for (const std::string& query :
-       {"RETURN [x IN " + repeated("(a) + ", 3000) + "?", "RETURN " + repeated("(", 3000)}) {
+  for (const auto& [query, reason] :
+       {std::pair("RETURN [x IN " + repeated("(a) + ", 3000) + "?",
+                  "takes too long to be understood"),
+        std::pair("RETURN " + repeated("(", 3000), "nests too deeply for the stack")}) {
     const Told told = columns(query);
     EXPECT_EQ(told.error, VORN_SYNTAX);
     EXPECT_EQ(told.line, 0U);
     EXPECT_EQ(told.column, 0U);
     EXPECT_EQ(told.offset, 0U);
     EXPECT_EQ(told.message,
-              "the text is no openCypher query, and nests too deeply or takes too long to be "
-              "searched for the place of the error");
+              std::string("the text is no openCypher query; the place of its error is unknown: "
+                          "the openCypher text ") +
+                  reason);
   }
 }
 

@@ -132,21 +132,23 @@ class FileNames(InspectTest):
         for text in [
             "queries/a.cypher",
             "./a",
-            "../a b/c.cql",
             "/tmp/a",
             "~/a.cypher",
-            "a b.cyp",
-            "C:\\Users\\a.txt",
-            "\\\\server\\a",
+            "/home/käthe/a-1_b.txt",
         ]:
             with self.subTest(text):
                 self.assertEqual(hints("columns", text), [f"To read a file, write --file {text}"])
+
+    def test_that_are_no_plain_argument_are_shown_between_quotation_marks(self) -> None:
+        for text in ["../a b/c.cql", "a b.cyp", "C:\\Users\\a.txt", "\\\\server\\a", "/tmp/a&b"]:
+            with self.subTest(text):
+                self.assertEqual(hints("columns", text), [f'To read a file, write --file "{text}"'])
 
     def test_of_files_that_are_there_get_it_whatever_they_look_like(self) -> None:
         with tempfile.TemporaryDirectory() as folder:
             path = os.path.join(folder, "a (1)")
             Path(path).write_text("RETURN 1")
-            self.assertIn(f"--file {path}", run("columns", path).error)
+            self.assertIn(f'--file "{path}"', run("columns", path).error)
             result = run("usages", "n.cypher", cwd=folder)
             self.assertEqual((result.status, result.error), (0, ""))
             Path(folder, "n.cypher").write_text("n.a")
@@ -159,7 +161,7 @@ class FileNames(InspectTest):
         self.assertEqual(len(hints("columns", "RETRUN n.txt")), 1)
 
     def test_are_not_seen_in_other_texts(self) -> None:
-        for text in ["a/b", "RETURN 1 / 2 /", "MATCH (a.txt", "n.a"]:
+        for text in ["a/b", "RETURN 1 / 2 /", "MATCH (a.txt", "n.a", "/ 2", "/RETURN 1", "/"]:
             for hint in hints("columns", text):
                 self.assertNotIn("--file", hint)
 

@@ -44,10 +44,7 @@ class Lines(InspectTest):
             b'{"query":"RETURN 1"} {}',
             b"{'query':'RETURN 1'}",
             b'{"query":"RETURN 1","number":1e999}',
-            b'{"query":"\\ud800"}',
             b'{"query":"\\x"}',
-            b'{"query":"RETURN \xff"}',
-            b'{"query":"RETURN \xed\xa0\x80"}',
             b"\xff\xfe",
             b'{"query":"RETURN \x00"}',
             b"\x00",
@@ -59,12 +56,34 @@ class Lines(InspectTest):
             self.assertEqual([answers[0], answers[2]], [json.loads(GOOD_ANSWER)] * 2)
             self.assert_input_error(answers[1])
 
-    def test_that_are_not_utf_8_are_told_from_those_that_are_no_json(self) -> None:
-        answers = answer_lines("columns", b'{"query":"RETURN \xff"}', b'{"query":"RETURN"')
-        self.assertEqual(
-            [answer["error"]["message"] for answer in answers],
-            ["The line is not UTF-8: see byte 18.", "The line is no JSON: see byte 18."],
-        )
+    def test_that_are_not_well_formed_are_told_from_those_that_are_no_json(self) -> None:
+        for line, kind, message in [
+            (b'{"query":"RETURN \xff"}', "not well formed", "The line is not UTF-8: see byte 18."),
+            (b'{"query":"\xed\xa0\x80"}', "not well formed", "The line is not UTF-8: see byte 11."),
+            (b'{"query":"\xff', "input", "The line is not UTF-8: see byte 11."),
+            (b'{"query":"RETURN"', "input", "The line is no JSON: see byte 18."),
+            (
+                b'{"query":"\\ud83e\\uddedx\\ud800"}',
+                "not well formed",
+                "The line holds half a surrogate pair: see byte 30.",
+            ),
+            (
+                b'{"query":"\\uDC00"}',
+                "not well formed",
+                "The line holds half a surrogate pair: see byte 16.",
+            ),
+        ]:
+            (answer,) = answer_lines("columns", line)
+            self.assertEqual(answer, {"error": {"kind": kind, "message": message}}, line)
+
+    def test_that_are_not_well_formed_keep_their_id(self) -> None:
+        for broken in [b"\xff", b"\\ud800", b"\\\\\\udfff \\ud83e\\udded", b"\\udc00\\ud800"]:
+            for line in [
+                b'{"id":[1.50],"query":"' + broken + b'"}',
+                b'{"query":"' + broken + b'","id":[1.50]}',
+            ]:
+                output = run("columns", "--jsonl", given=line).output
+                self.assertTrue(output.startswith('{"id":[1.50],"error":{"kind":"not well'), output)
 
     def test_of_the_other_commands_may_be_no_requests_either(self) -> None:
         for command in ["usages", "rename"]:

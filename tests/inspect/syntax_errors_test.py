@@ -34,6 +34,35 @@ class SyntaxErrors(InspectTest):
     def test_are_shown_with_their_line_alone(self) -> None:
         self.assert_view("n.a = 1 AND\nn.b = ) AND\nn.c", "2:6", "n.b = ) AND", "      ^")
 
+    def test_in_a_long_line_are_shown_with_what_stands_around_them(self) -> None:
+        fits = "n.a = " + "b" * 68 + "+)"
+        self.assert_view(fits, "1:75", fits, " " * 75 + "^")
+        self.assert_view(
+            "n.a = " + "宽" * 30 + "+)" + "b" * 100,
+            "1:37",
+            "..." + "宽" * 19 + "+)" + "b" * 29 + "...",
+            " " * 42 + "^",
+        )
+        self.assert_view("b" * 80 + "+\t)", "1:82", "..." + "b" * 37 + "+\t)", " " * 41 + "\t^")
+        self.assert_view(") " + "é" * 100, "1:0", ") " + "é" * 28 + "...", "^")
+
+    def test_quote_the_runtime_only_as_far_as_a_person_reads(self) -> None:
+        long = "a" * 100
+        for command, text, message in [
+            ("columns", f"RETURN [x IN '{long}' )", "no viable alternative"),
+            ("columns", f"RETURN CASE WHEN {long} END", "no viable alternative"),
+            ("columns", f"'{long}'", "mismatched input"),
+            ("usages", f"'{long}", "token recognition error"),
+        ]:
+            whole = json.loads(run(command, "--json", text).output)["error"]["message"]
+            shown = run(command, text).error.split("\n")[0]
+            self.assertIn(long, whole)
+            self.assertNotIn("a" * 61, shown)
+            self.assertIn("...", shown)
+            self.assertIn("a" * 50, shown)
+            self.assertIn(message, whole)
+            self.assertIn(message, shown)
+
     def test_have_a_caret_aligned_under_wide_characters(self) -> None:
         self.assert_view("映画.題名 = )", "1:8", "映画.題名 = )", "            ^")
 
@@ -59,10 +88,10 @@ class SyntaxErrors(InspectTest):
         self.assert_view("n =\r\n)\r\n", "2:0", ")", "^")
         self.assert_view("n = )\r\n", "1:4", "n = )", "    ^")
 
-    def test_have_messages_as_they_are(self) -> None:
+    def test_have_messages_as_they_are_in_json(self) -> None:
         text = '"' + "x" * 10_000
-        result = run("usages", "-", given=text)
-        self.assertIn(text, result.error.split("\n")[0])
+        error = json.loads(run("usages", "--json", "-", given=text).output)["error"]
+        self.assertEqual(error["message"], f"line 1:0 token recognition error at: '{text}'")
 
     def test_name_few_of_the_tokens_that_are_expected(self) -> None:
         for command, text, message in [

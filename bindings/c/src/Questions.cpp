@@ -216,9 +216,7 @@ vorn_answer* answerTo(const Unit* first, std::size_t length, const Ask& ask) noe
         if (error.isKnown()) {
           writer.failAt(error, text.view());
         } else {
-          writer.fail(VORN_SYNTAX, std::string(exception.what()) +
-                                       ", and nests too deeply or takes too long to be searched "
-                                       "for the place of the error");
+          writer.fail(VORN_SYNTAX, exception.what());
         }
       }
     } catch (const BadArgument&) {
