@@ -3,8 +3,8 @@
 
     measure.py BUILD [--all] [--quick]
 
-BUILD holds the library and the programs that measure. Without --all only times are measured. A quick
-run shows that everything works; its numbers mean little.
+BUILD holds the library and the programs that measure it. Without --all, only times are measured. --quick shows that
+everything works; the numbers of such a run mean little.
 """
 
 import argparse

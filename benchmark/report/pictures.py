@@ -1,4 +1,4 @@
-"""Draws charts as SVG, with nothing but text."""
+"""Draws charts as SVG text, without a library."""
 
 import math
 from xml.sax.saxutils import escape
@@ -46,7 +46,7 @@ class LogScale:
 
 
 def log_log_panel(title, x_words, lines, left):
-    """`lines` are pairs of a subject and its points (x, y)."""
+    """Each of `lines` is a pair of a subject and its points (x, y)."""
     points = [point for _, some in lines for point in some]
     x_scale = LogScale([x for x, _ in points], left + MARGIN_LEFT, left + PANEL_WIDTH - MARGIN_RIGHT)
     y_scale = LogScale([y for _, y in points], 20 + PANEL_HEIGHT - MARGIN_BOTTOM, 20 + MARGIN_TOP)
@@ -74,7 +74,7 @@ def legend(left):
 
 
 def log_log(panels, x_words):
-    """`panels` gives the lines by title."""
+    """`panels` maps titles to lines."""
     parts = legend(MARGIN_LEFT)
     for i, (title, lines) in enumerate(panels.items()):
         parts += log_log_panel(title, x_words, lines, i * PANEL_WIDTH)
@@ -82,7 +82,7 @@ def log_log(panels, x_words):
 
 
 def bars(values):
-    """`values` gives what the library takes of bare's time by label; lines mark all of it and a tenth."""
+    """`values` maps labels to ratios of the library's time to bare's. Lines mark a ratio of 1 and of a tenth."""
     parts = []
     top = 22
     for label, value in values.items():

@@ -21,8 +21,11 @@ from times import Times
 ROOT = pathlib.Path(__file__).parents[2]
 DOCS = ROOT / 'docs'
 PICTURES = DOCS / 'performance'
-# Their calls end by an exception, or leave the path of valid texts.
+# Their calls end with an exception or enter the fallback.
 NOT_ANSWERED = ('refused', 'with an error')
+# The table at the top of the page shows these groups.
+SELECTED = ('sample queries: columns', 'sample filters: usages', 'sample filters: renaming', 'filters refused: usages',
+            'queries with an error: columns', 'filters with an error: usages')
 
 
 def table(heads, rows):
@@ -54,7 +57,7 @@ def processor():
 
 def machine():
     return paragraph(f'''Measured on {os.cpu_count()} processors ({processor()}, {platform.system()} {platform.machine()}),
-        on which other programs ran too. Times differ from machine to machine, ratios less.''')
+        on which other programs ran too. Times differ from machine to machine; ratios differ less.''')
 
 
 def paragraph(words):
@@ -62,7 +65,7 @@ def paragraph(words):
 
 
 class Speed:
-    """The times of both, by group: those of texts that are answered first."""
+    """The times of both subjects by group. Groups of texts that get an answer come first."""
 
     def __init__(self, times, library):
         self.times, self.library = times, library
@@ -73,6 +76,11 @@ class Speed:
     @staticmethod
     def answers(group):
         return not any(words in group for words in NOT_ANSWERED)
+
+    def selected_rows(self):
+        for group in SELECTED:
+            times = (self.times.value(group, subject, 'us/text')[0] for subject in ('bare', self.library))
+            yield (group, *(f'{time:,.1f}' for time in times), f'{self.ratios[group]:.3f}')
 
     def rows(self):
         for group in self.groups:
@@ -86,13 +94,14 @@ class Speed:
         answered = [group for group in self.groups if self.answers(group)]
         slowest = max(answered, key=self.ratios.get)
         worst = max(self.groups, key=self.ratios.get)
-        return paragraph(f'''In the median of the groups the library takes {statistics.median(self.ratios.values()):.3f} of
-            the time of the bare parser, {statistics.median(self.fastest.values()):.3f} by the fastest calls. Of the groups with an answer the slowest is "{slowest}", {self.ratios[slowest]:.3f};
-            of all groups it is "{worst}", {self.ratios[worst]:.3f}.''')
+        return paragraph(f'''In the median of all groups of texts, the library takes {statistics.median(self.ratios.values()):.3f}
+            of the time of the bare parser, or {statistics.median(self.fastest.values()):.3f} by the fastest calls. Among the
+            groups that get an answer, "{slowest}" is the slowest with
+            {self.ratios[slowest]:.3f}. Among all groups, "{worst}" is the slowest with {self.ratios[worst]:.3f}.''')
 
 
 def by_shape(rows, value):
-    """For each shape and subject the points (bytes, value)."""
+    """The points (bytes, value) for each shape and subject."""
     shapes = defaultdict(list)
     for row in rows:
         shape = row['group'].rsplit(' ', 1)[0]
@@ -101,7 +110,7 @@ def by_shape(rows, value):
 
 
 def exponents(shapes, library):
-    """How each shape grows from an eighth of the largest size on: 1 is linear, 2 is quadratic."""
+    """How the time of each shape grows over the last three doublings: 1 is linear, 2 is quadratic."""
     for (shape, subject), points in shapes.items():
         if subject == library:
             (x0, y0), (x1, y1) = points[-4], points[-1]
@@ -120,10 +129,10 @@ def growth(data, library):
         {'Time of a call, µs': lines(times), 'Memory of a call at its peak, bytes': lines(peaks)}, 'bytes of text'))
     found = dict(exponents(times, library))
     lowest, highest = min(found, key=found.get), max(found, key=found.get)
-    words = paragraph(f'''Each line is one shape of text that can be repeated (`benchmark/corpus/shapes.py`), in sizes 1 to
-        1,024. Over the last three doublings the library's time grows with the exponent {statistics.median(found.values()):.2f}
-        in the median, {found[lowest]:.2f} at least ("{lowest}") and {found[highest]:.2f} at most ("{highest}"); 1 is linear,
-        2 quadratic.''')
+    words = paragraph(f'''Each line is one shape of text, repeated up to 1,024 times (`benchmark/corpus/shapes.py`). Over the
+        last three doublings, the library's time grows with an exponent of {statistics.median(found.values()):.2f} in the
+        median. The exponent is {found[lowest]:.2f} at least ("{lowest}") and {found[highest]:.2f} at most ("{highest}"); 1 is linear,
+        2 is quadratic.''')
     return f'{words}\n\n{image}'
 
 
@@ -163,41 +172,49 @@ def document(build):
 
 {draw('ratios', pictures.bars(speed.ratios))}
 
-{table(('texts: function', 'bare, µs', 'spread', 'library, µs', 'spread', 'ratio', 'fastest'), speed.rows())}
+{table(('texts: function', 'bare, µs', 'library, µs', 'ratio'), speed.selected_rows())}
 
-**bare** is the parser that the ANTLR tool generates, without the library: input stream, lexer, token stream, parser and a
-walk with an empty listener, over text that is UTF-8 already. Both are built with `-O2 -DNDEBUG`, run in one program and take
-turns call by call. A time is processor time of the calling thread for one text on average: the median of nine repetitions,
-with half the distance between the quartiles as spread. *fastest* is the ratio of the fastest calls of each text, which other
-programs on the machine disturb least. `benchmark/corpus/corpus.py` writes the texts, always the same ones.
+*bare* is the parser that the ANTLR tool generates, without the library: input stream, lexer, token stream, parser and a
+walk with an empty listener. Its text is UTF-8 already.
 
 {machine()}
 
-`make bench-report` measures and writes this page, `make bench` prints the times in more detail. `make check-instructions`
-compares the instructions of each call, which no other program disturbs.
+`make bench-report` measures and writes this page. `make bench` prints the times in more detail. `make check-instructions`
+compares the number of instructions of each call, which other programs do not disturb.
+
+## All groups
+
+{table(('texts: function', 'bare, µs', 'spread', 'library, µs', 'spread', 'ratio', 'fastest'), speed.rows())}
+
+- The parser and the library are built with `-O2 -DNDEBUG`, run in one program and take turns call by call.
+- A time is the processor time of the calling thread for one text on average. It is the median of nine repetitions. The
+  spread is half the distance between the quartiles.
+- *fastest* is the ratio of the fastest calls of each text. Other programs on the machine disturb these calls least.
+- `benchmark/corpus/corpus.py` writes the texts, which are the same every time.
 
 ## First call
 
-In microseconds, medians over new processes: loading the library, the first call (`RETURN 1 AS one`) and the same call again.
+This table shows how long it takes to load the library, to make the first call (`RETURN 1 AS one`) and to make the same call
+again. The times are in microseconds, medians over new processes.
 
 {table(('subject', 'load', 'first call', 'second call'), first_call_rows(rows_of(data / 'first-calls.csv'), library))}
 
 ## Threads
 
-Calls with all texts in each thread, by the time of day, and how many times those of one thread they are. What other programs
-take of the processors shows here most.
+Each thread makes calls with all texts. The calls of all threads are counted against the clock; the figure in parentheses
+compares them with one thread. Here, other programs on the processors matter most.
 
 {table(('subject', 'calls/s, 1 thread', '2 threads', '4 threads'),
        (('library' if row[0] == library else row[0], *row[1:]) for row in times.thread_rows()))}
 
 ## Memory
 
-Bytes of text, allocations of a call and the memory that it holds at most, on average.
+The table shows averages: the bytes of a text, the allocations of a call and the memory of the call at its peak.
 
 {table(('texts: function', 'bytes', 'bare, allocations', 'library', 'bare, peak in bytes', 'library'),
        memory_rows(memory, speed))}
 
-The library itself has {number(int(size['file']))} bytes, {number(int(size['stripped']))} without symbols.
+The file of the library has {number(int(size['file']))} bytes, and {number(int(size['stripped']))} without symbols.
 
 ## Growth
 
@@ -206,7 +223,7 @@ The library itself has {number(int(size['file']))} bytes, {number(int(size['stri
 ## Decisions
 
 A decision is a place where a text may go on in several ways. The compiler of the grammar finds the tokens that tell these
-ways apart, three at most. This counts how many it takes:
+ways apart, three at most. This command counts the tokens:
 
 ```sh
 grammar/count_decisions.py
@@ -215,15 +232,16 @@ grammar/count_decisions.py
 ```text
 {decisions()}```
 
-- Where alternatives begin alike, the beginning is taken once and the decision comes behind it. Fewer decisions remain, and
-  fewer of them take more than three tokens.
-- `oC_SingleQuery` is compiled from an equivalent form: a part of a query shows only at its end, by a `WITH`, that another
-  part follows.
-- What three tokens do not tell is tried in order: `oC_Query` at `CALL`, `oC_StandaloneCall` at its arguments, `oC_Atom` at
-  brackets, names and the words of quantifiers, and the loop of `oC_RelationshipsPattern`. Each place is tried once.
-- The parser that the ANTLR tool generates decides by one token itself, but for some places where it asks the runtime to
-  predict. In the fallback `Lookahead.cpp` answers there first. It looks at three tokens, at seven where few of them leave
-  it open, as in names with dots.
+- Where alternatives begin alike, the parser takes the beginning once and decides behind it. So there are fewer decisions,
+  and fewer of them need more than three tokens.
+- `oC_SingleQuery` is compiled from an equivalent form. In the original form, the parser could tell only from the `WITH` at
+  the end of a part that another part follows.
+- Where three tokens do not suffice, the parser tries the alternatives in order. It does so in `oC_Query` at `CALL`, in
+  `oC_StandaloneCall` at its arguments, in `oC_Atom` at brackets, names and the words of quantifiers, and in the loop of
+  `oC_RelationshipsPattern`. It tries each place once.
+- The parser that the ANTLR tool generates decides most places by one token. At the other places it asks the runtime to
+  predict. In the fallback, `Lookahead.cpp` answers first. It looks at three tokens, or at seven where only few sequences of
+  tokens leave the decision open, as in names with dots.
 '''
 
 

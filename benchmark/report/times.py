@@ -11,7 +11,7 @@ import sys
 
 
 class Times:
-    """Medians over the repetitions, and the spread: half of what lies between the quartiles."""
+    """Medians over the repetitions, and the spread: half the distance between the quartiles."""
 
     def __init__(self, file):
         self.runs = {}
