@@ -117,7 +117,7 @@ def test_what_is_no_text_is_a_wrong_type(ask: Callable[[Any], Any], text: Any) -
 
 @pytest.mark.parametrize("names", [None, "nm", [("n", "m")], {"n": 1}, {1: "m"}, {"n": None}])
 def test_what_is_no_mapping_of_names_is_a_wrong_type(names: Any) -> None:
-    with pytest.raises(TypeError):
+    with pytest.raises(TypeError, match="the names must be"):
         vornlib.rename("n", names)
 
 

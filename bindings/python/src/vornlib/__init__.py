@@ -15,6 +15,7 @@ four functions may also raise a `MemoryError`. Time and stack that a text takes 
 length, so bound the length of text that you did not write.
 """
 
+import itertools
 from collections.abc import Mapping
 from enum import IntEnum
 from typing import NamedTuple
@@ -216,7 +217,11 @@ def expression_end(expression: str) -> int:
 def _rename(expression: str, names: Mapping[str, str]) -> tuple[str, int]:
     if not isinstance(names, Mapping):
         raise TypeError(f"the names must be a mapping, not {type(names).__name__}")
-    return _native.rename(expression, list(names.items()))
+    pairs = list(names.items())
+    for name in itertools.chain.from_iterable(pairs):
+        if not isinstance(name, str):
+            raise TypeError(f"each of the names must be a str, not {type(name).__name__}")
+    return _native.rename(expression, pairs)
 
 
 def _error(
