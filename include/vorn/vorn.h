@@ -134,9 +134,9 @@ enum class CypherType : std::int32_t {
 ///       // columns is {{u"n", CypherType::Node}, {u"age", CypherType::Unknown}}
 ///     }
 ///
-/// The columns are those of the last `RETURN` or `WITH` in the text, also if it stands in a
-/// subquery. A query without either, such as a lone `CREATE`, has no columns. Nor has a `CALL` that
-/// is the whole query, with `YIELD` or without.
+/// The columns are those of the last `RETURN` or `WITH` in the text, even if that one stands in a
+/// subquery. A query with neither of them has no columns: a lone `CREATE`, for example, or a `CALL`
+/// that is the whole query, with or without `YIELD`.
 ///
 /// The name of a column is its alias or else the text of its expression. Both lose their back
 /// quotes, even those inside a string literal. A doubled back quote inside a quoted name becomes a

@@ -16,32 +16,32 @@
 ///     BString answer;
 ///     fill(&answer);  // fill takes a BSTR* and stores a new BSTR there
 ///
-/// The object is one BSTR, which may be null. Null counts as an empty string where a length is
-/// asked for, but in a comparison it differs from an empty one. The object frees what it holds,
-/// with SysFreeString. Where the platform has no OLE automation, BSTRs come from here only
-/// (Detach(), String::MakeBSTR()) and are freed by handing them back (Attach()).
+/// The object is one BSTR, which may be null. Its length is then 0, but in a comparison null
+/// differs from an empty string. The object frees its BSTR with SysFreeString. Where the platform
+/// has no OLE automation, only Detach() and String::MakeBSTR() give BSTRs, and Attach() takes them
+/// back to free them.
 ///
-/// Lengths count wide characters and include zeros among them. Comparisons do not: they compare
-/// UTF-16 code units up to the first zero on either side. `&` gives the address of the BSTR; the
-/// address of the object is std::addressof's.
+/// A length counts wide characters, zeros included. A comparison stops at the first zero on either
+/// side and compares UTF-16 code units. `&` gives the address of the BSTR, and std::addressof the
+/// address of the object.
 ///
-/// When memory runs out, a constructor leaves the object null.
+/// If memory runs out, a constructor leaves the object null.
 class BString {
  public:
   /// Null.
   VORN_API BString() noexcept;
 
   /// A string of `n` characters with no particular content, and a terminating zero behind them.
-  /// Null when `n` is negative or too large.
+  /// Null if `n` is negative or too large.
   VORN_API explicit BString(long n) noexcept;
 
   /// A copy of all characters of `text`. An empty text gives an empty string, not null.
   VORN_API explicit BString(const String& text) noexcept;
 
   /// The wide form of `text`, read in the multibyte encoding of the current locale (LC_CTYPE). Null
-  /// when `text` is null or not well formed in that encoding. Core library.
+  /// if `text` is null or not well formed in that encoding. Core library.
   /// @param encoding  0. Every other value means the same.
-  /// @note No other thread may change the locale (setlocale) meanwhile.
+  /// @note No other thread may change the locale (setlocale) during the call.
   VORN_API BString(const char* text, int encoding) noexcept;
 
   /// Takes the other's string and leaves the other null.
@@ -53,16 +53,16 @@ class BString {
   /// Frees the string.
   VORN_API ~BString();
 
-  /// Frees the own string, takes the other's and leaves the other null. Nothing when both hold the
-  /// same string, so that an object can be assigned to itself.
+  /// Frees the own string, takes the other's and leaves the other null. Does nothing if both hold
+  /// the same string, so an object can be assigned to itself.
   VORN_API BString& operator=(BString&& other) noexcept;
 
-  /// Frees the string and gives the address under which a new one can be stored, which the object
-  /// then owns.
+  /// Frees the string and gives the address of the BSTR, which is then null. The object owns a BSTR
+  /// that is stored there.
   VORN_API BSTR* operator&() noexcept;
 
-  /// All characters; for null an empty view that begins nowhere. Valid until the object is changed
-  /// or destroyed.
+  /// All characters. For null an empty view whose pointer is null. Valid until the object is
+  /// changed or destroyed.
   VORN_API operator std::basic_string_view<vorn::WideChar>() const noexcept;
 
   /// The length in wide characters, 0 for null.
@@ -71,11 +71,11 @@ class BString {
   /// Whether the length is 0.
   [[nodiscard]] VORN_API bool IsEmpty() const noexcept;
 
-  /// Two nulls are equal, a null and a string are not, two strings are when their code units up to
-  /// the first zero are the same. The pointers may be null.
+  /// Two nulls are equal. A null and a string are not equal. Two strings are equal if their code
+  /// units up to the first zero are the same. The pointers may be null.
   ///
-  /// Narrow text is made wide as by the constructor from narrow text, so one that cannot be made
-  /// wide equals null, and the locale must not change meanwhile.
+  /// Narrow text is made wide as by the constructor from narrow text. So text that is not well
+  /// formed equals null, and the locale must not change during the call.
   VORN_API bool operator==(const BString& right) const noexcept;
   VORN_API bool operator==(vorn::WideChar* right) const noexcept;
   VORN_API bool operator==(const String& right) const noexcept;
@@ -90,13 +90,13 @@ class BString {
   VORN_API bool operator!=(const char* right) const noexcept;
   VORN_API bool operator!=(std::nullptr_t) const noexcept;
 
-  /// Null comes before every string, and nothing before null. Narrow text as for `==`.
+  /// Null comes before every string, and nothing comes before null. Narrow text as for `==`.
   VORN_API bool operator<(const BString& right) const noexcept;
   VORN_API bool operator<(vorn::WideChar* right) const noexcept;
   VORN_API bool operator<(char* right) const noexcept;
 
-  // For text that is not to be written to, such as a literal. The members above take it for
-  // writable, by which the platform's hosts know them; they do not write to it.
+  // For constant text, such as a literal. The members above take pointers to writable text because
+  // the platform's hosts link them by these types. They do not write to it.
   // NOLINTBEGIN(cppcoreguidelines-pro-type-const-cast)
   bool operator==(const vorn::WideChar* right) const noexcept {
     return *this == const_cast<vorn::WideChar*>(right);
@@ -112,12 +112,12 @@ class BString {
 
   /// Appends the first `n` characters at `s`, zeros among them included. `s` may lie in the string
   /// itself.
-  /// @return 0 (S_OK) when they are appended; 1 (S_FALSE) when `s` is null or `n` is 0; 0x8007000E
-  ///         (E_OUTOFMEMORY) when memory runs out, the whole would be too long, or `n` is negative.
-  ///         Unless it is 0, the object is as it was: a null one stays null.
+  /// @return 0 (S_OK) if they are appended. 1 (S_FALSE) if `s` is null or `n` is 0. 0x8007000E
+  ///         (E_OUTOFMEMORY) if memory runs out, the whole would be too long, or `n` is negative.
+  ///         Unless 0 is returned, the object does not change, and a null one stays null.
   VORN_API std::int32_t Append(const vorn::WideChar* s, int n) noexcept;
 
-  /// Appends all characters of `other`, which may be the object itself. Returns as above, 1 when
+  /// Appends all characters of `other`, which may be the object itself. Returns as above, and 1 if
   /// `other` is null or empty.
   VORN_API std::int32_t Append(const BString& other) noexcept;
 
@@ -130,14 +130,14 @@ class BString {
   /// Appends all characters of `other`, or nothing when that fails.
   VORN_API BString& operator+=(const BString& other) noexcept;
 
-  /// Frees the held string and holds `s` from now on. Nothing when it is the held one.
+  /// Frees the held string and holds `s` from now on. Does nothing if `s` is the held string.
   VORN_API void Attach(BSTR s) noexcept;
 
   /// Frees the held string, takes the other's and leaves the other null. An object attached to
   /// itself stays as it is.
   VORN_API void Attach(BString& other) noexcept;
 
-  /// Leaves the object null and gives the string to the caller, who owns it from now on.
+  /// Leaves the object null and gives the string to the caller, who then owns it.
   VORN_API BSTR Detach() noexcept;
 
  private:

@@ -11,14 +11,14 @@
 ///     StringArray array(names, 3);
 ///     array.Sort();  // names is now {&alice, &bob, &carol}
 ///
-/// The object is a pointer to the first element followed by a signed 32-bit number of elements. It
-/// owns neither the array nor the Strings: both belong to whoever made them and must outlive it. No
-/// element is null.
+/// The object is a pointer to the first element, followed by the number of elements as a signed
+/// 32-bit number. It owns neither the array nor the Strings: both belong to the caller and must
+/// outlive the object. No element may be null.
 class StringArray {
  public:
   /// Compares two elements. Each argument points to an element, which is itself a pointer to a
   /// String: `**static_cast<const String* const*>(left)`. The result is below, equal to or above 0
-  /// as the left one comes before, with or after the right one. It must not throw.
+  /// as the left String comes before, with or after the right one. A comparison must not throw.
   using Comparison = int (*)(const void* left, const void* right);
 
   /// The `size` elements that begin at `first`, which may be null when `size` is 0. Core library.
@@ -27,9 +27,9 @@ class StringArray {
   /// The number of elements.
   [[nodiscard]] VORN_API int GetSize() const noexcept;
 
-  /// Sorts the pointers; the Strings stay where they are. Elements that compare equal end up in any
-  /// order. Without a comparison of the caller's own, the texts are compared by their UTF-16 code
-  /// units up to the first zero, upper case before lower case.
+  /// Sorts the pointers. The Strings stay where they are. Elements that compare equal end up in any
+  /// order. The default comparison compares UTF-16 code units up to the first zero, so upper case
+  /// comes before lower case.
   VORN_API void Sort(Comparison compare = Compare);
 
  private:
