@@ -37,7 +37,7 @@
 /// that was checked is the result of renaming with an empty map.
 ///
 /// **Limits.** A host that reads untrusted input should bound its length, and should know these
-/// limits. A query is valid if it is an openCypher query. A filter is valid if it is one expression
+/// limits. A query is valid if the grammar accepts it. A filter is valid if it is one expression
 /// from its first to its last character, apart from white space and comments at its end.
 ///
 /// - **Time**: a valid text is parsed in time proportional to its length. A filter that is not
@@ -143,8 +143,9 @@ enum class CypherType : std::int32_t {
 /// single one.
 ///
 /// `RETURN *` gives a column for each variable in scope, ordered by the bytes of the names in
-/// UTF-8. Two sorts of variables are left out: those from `CALL … YIELD`, and those of unknown kind
-/// that a `WITH` names without an `AS`. Named in the `RETURN`, such a variable has a column.
+/// UTF-8. Two sorts of variables are left out: those from the `YIELD` of a `CALL`, and those of
+/// unknown kind that a `WITH` names without an `AS`. Named in the `RETURN`, such a variable has a
+/// column.
 ///
 /// The names and the number of the columns of a `UNION` are those of its last branch. The kinds of
 /// the earlier branches are merged in by position.
