@@ -15,8 +15,10 @@
  * - What does a property filter read like after some of its variables are renamed?
  *   (vorn_rename_utf8)
  *
- * Each exists for UTF-8 and for UTF-16. A question gives an answer, which is asked for its parts
- * and then released:
+ * A property filter is one openCypher expression, such as the condition behind a `WHERE`.
+ *
+ * Each question exists for UTF-8 and for UTF-16. It gives an answer. The host reads the parts of
+ * the answer and then releases it:
  *
  *     const char *query = "MATCH (n) RETURN n, n.age AS age";
  *     vorn_answer *answer = vorn_columns_utf8(query, strlen(query));
@@ -30,35 +32,41 @@
  *     }
  *     vorn_release(answer);
  *
- * **What an answer is not.** Only the syntax is checked. Whether a label, a property or a function
- * exists is not known here. A filter is read as far as it is an expression; what stands behind a
- * complete one may be dropped. A host that stores or runs the text it was given, and not the text
- * of the answer, should refuse it unless vorn_expression_end() is its length.
+ * **Only the syntax is checked.** The library does not know whether a label, a property or a
+ * function exists.
  *
- * **Text** is given by its first unit and its length in units: bytes of UTF-8, code units of
- * UTF-16 in the byte order of the machine. It needs no zero at its end and may hold zeros. It is
- * only read, and not needed any more when the function returns. A null pointer with a length of
- * zero is an empty text; with another length it is an error of kind VORN_BAD_ARGUMENT. A byte order
- * mark at the start is skipped and is not part of any answer, but counts in every offset.
+ * **Text behind a filter may be dropped.** The filter `n.a = 1 RETURN n` is read as `n.a = 1`. A
+ * host may store or run the text that vorn_renamed_utf8() gives. A host that stores or runs the
+ * text it was given should refuse a text whose length is not vorn_expression_end().
  *
- * **Strings of an answer** are in the encoding of the question, and belong to the answer: they are
- * valid until it is released. A zero follows each, which its length does not count. The accessor
- * for the other encoding gives a null pointer and a length of zero. Each of these functions stores
- * the length, in units, where its last argument points to; that may be a null pointer.
+ * **Text** is given by a pointer to its first unit and its length in units. A unit is a byte of
+ * UTF-8, or a code unit of UTF-16 in the byte order of the machine. The text needs no zero at its
+ * end and may hold zeros. The library only reads the text, and only during the call. A null pointer
+ * with a length of zero is an empty text. A null pointer with another length is an error of kind
+ * VORN_BAD_ARGUMENT. A byte order mark at the start is skipped and is not part of any answer, but
+ * counts in every offset.
  *
- * **Indices** count from 0. One beyond the count, and a question that does not fit the answer, such
- * as for the columns of a filter or of an error, gives a null pointer, zero or VORN_UNKNOWN.
+ * **Strings of an answer** are in the encoding of the question. They belong to the answer and are
+ * valid until the answer is released. A zero, which the length does not count, follows each string.
+ * The accessor for the other encoding gives a null pointer and a length of zero. Each accessor
+ * stores the length, in units, where its last argument points to. This argument may be a null
+ * pointer.
  *
- * **Errors are values**: no C++ exception leaves a function, and none ends the process. The
- * questions may fail, and their answers then tell of it; the other functions cannot fail. To all
- * but vorn_release() an answer must be given, not a null pointer.
+ * **Indices** count from 0. For an index that is too large, an accessor gives a null pointer, zero
+ * or VORN_UNKNOWN. It does the same for an answer of another kind: neither the usages of a filter
+ * nor an error, for example, have columns.
  *
- * **Threads**: any number of threads may ask at the same time, and read one answer at the same
- * time. An answer may be released on another thread than it was given to, but only while nobody
- * reads it. Nothing is kept between calls, and nothing has to be set up or shut down.
+ * **Errors are values**: no C++ exception leaves a function, and none ends the process. Only the
+ * questions can fail, and their answers then tell the error. All other functions but vorn_release()
+ * need an answer and must not be given a null pointer.
+ *
+ * **Threads**: any number of threads may ask questions at the same time, and may read the same
+ * answer at the same time. Any thread may release an answer, but only while no other thread reads
+ * it. No answer depends on an earlier call, and nothing has to be set up or shut down.
  *
  * **Stack and time**: a text that nests too deeply for the calling thread's stack is refused, and
- * so is a wrong filter that takes too much work. Bound the length of text that you did not write.
+ * so is a filter that is not valid and takes too much work. A host that reads untrusted input
+ * should bound its length.
  */
 
 /** @cond */
@@ -77,37 +85,38 @@ extern "C" {
 #endif
 /** @endcond */
 
-/** Why a question has no answer. The numbers are part of the contract. */
+/** Why a question failed. The numbers are part of the contract. */
 enum vorn_error {
-  /** There is an answer. */
+  /** The question did not fail. */
   VORN_NO_ERROR = 0,
   /** The text is no openCypher query, or does not begin with an openCypher expression. */
   VORN_SYNTAX = 1,
   /**
-   * The filter holds an element that has no place in one: a list comprehension, a pattern
-   * comprehension, a quantifier, a pattern predicate or an existential subquery.
+   * The filter holds a forbidden element: a list comprehension, a pattern comprehension, a
+   * quantifier, a pattern predicate or an existential subquery.
    */
   VORN_FORBIDDEN = 2,
   /** The text nests too deeply for the stack that the calling thread has left. */
   VORN_TOO_DEEP = 3,
-  /** The text or a name is no well-formed UTF-8 or UTF-16. */
+  /** The text or a name is not well-formed UTF-8 or UTF-16. */
   VORN_NOT_WELL_FORMED = 4,
   /** Memory, or another resource of the system, ran out. */
   VORN_OUT_OF_MEMORY = 5,
   /**
-   * A wrong filter takes more work than is done for one, the text or a name has more than 1 GiB in
-   * UTF-8, or there are more than 2^30 new names. A length beyond that is refused unread.
+   * A filter that is not valid takes too much work, the text or a name has more than 1 GiB in
+   * UTF-8, or there are more than 2^30 new names. A length beyond these limits is refused without
+   * reading the text.
    */
   VORN_TOO_LARGE = 6,
   /** A pointer is null and its length, or the count of what it points to, is not zero. */
   VORN_BAD_ARGUMENT = 7
 };
 
-/** What a result column holds. The numbers are part of the contract; others may be added. */
+/** What a result column holds. The numbers are part of the contract. Others may be added. */
 enum vorn_type {
   /**
    * Anything but a bare variable of a known kind: a computed expression, a property, a literal, a
-   * parameter, a variable bound by `UNWIND`, or kinds that conflict in a `UNION`.
+   * parameter, a variable from `UNWIND` or `YIELD`, or a column whose kinds conflict in a `UNION`.
    */
   VORN_UNKNOWN = 0,
   /** A variable bound in a node pattern: `n` of `MATCH (n)`. */
@@ -120,7 +129,7 @@ enum vorn_type {
   VORN_NODE_OR_RELATIONSHIP = 9
 };
 
-/** The answer to one question: what was asked for, or an error. */
+/** The answer to one question: columns, variables, a text or an error. */
 typedef struct vorn_answer vorn_answer;
 
 /** A new name for a variable, in UTF-8. A null pointer with a length of zero is an empty name. */
@@ -139,16 +148,26 @@ typedef struct vorn_rename_pair_utf16 {
   size_t to_length;     /**< In code units. */
 } vorn_rename_pair_utf16;
 
-/* The questions. None returns a null pointer: where there is no memory for an answer, there is one
-   that says so. Each answer is the caller's, who releases it by vorn_release(). */
+/* The questions. They never return a null pointer: if memory runs out, the answer is an error that
+   says so. Each answer belongs to the caller, who releases it by vorn_release(). */
 
 /**
  * Finds the columns that an openCypher query returns.
  *
- * A column is named by its alias or else by the text of its expression. In both cases back quotes
- * are taken out, wherever they stand. A query without a projection, such as a lone `CREATE`, has no
- * columns. Of a `UNION`, names and number are those of the last branch; the types of the earlier
- * ones are merged in by position.
+ * The columns are those of the last `RETURN` or `WITH` in the text, even if that one stands in a
+ * subquery. A query with neither of them has no columns: a lone `CREATE`, for example, or a `CALL`
+ * that is the whole query, with or without `YIELD`.
+ *
+ * The name of a column is its alias or else the text of its expression. Both lose their back
+ * quotes, even those inside a string literal. A doubled back quote inside a quoted name becomes a
+ * single one.
+ *
+ * `RETURN *` gives a column for each variable in scope, ordered by the bytes of the names in UTF-8.
+ * Two sorts of variables are left out: those from the `YIELD` of a `CALL`, and those of unknown
+ * type that a `WITH` names without an `AS`.
+ *
+ * The names and the number of the columns of a `UNION` are those of its last branch. The types of
+ * the earlier branches are merged in by position.
  *
  * @param query  The whole text of one query, in UTF-8.
  * @param length  Its length in bytes.
@@ -167,8 +186,9 @@ VORN_C_API vorn_answer* vorn_columns_utf16(const uint16_t* query, size_t length)
 /**
  * Finds the variables that a property filter, which is one openCypher expression, uses.
  *
- * The expression must begin with the first character of the text. What stands behind a complete
- * one is dropped if it cannot continue it; vorn_expression_end() tells.
+ * The expression must begin with the first character of the text. Text behind a complete
+ * expression is dropped, unless it looks like a continuation. vorn_expression_end() tells where the
+ * expression ends.
  *
  * @param expression  The text of the filter, in UTF-8.
  * @param length  Its length in bytes.
@@ -187,12 +207,14 @@ VORN_C_API vorn_answer* vorn_usages_utf16(const uint16_t* expression, size_t len
 /**
  * Renames variables in a property filter and leaves every other character as it is written.
  *
- * Every occurrence is renamed, also inside the elements that vorn_usages_utf8() refuses. White
- * space and comments behind the expression are left out; other text there is treated as by
- * vorn_usages_utf8(). Back quotes make no difference, neither around an old
- * name nor around a variable in the text. A new name that begins with a back quote is used as it
- * is, unchecked; any other one is put between back quotes, those inside it doubled. If two old
- * names mean one variable, the later one in the array wins.
+ * Every occurrence of a variable is renamed, even inside the elements that vorn_usages_utf8()
+ * refuses. White space and comments behind the expression are left out. Other text there is dropped
+ * or refused as by vorn_usages_utf8().
+ *
+ * An old name matches a variable whether either of them has back quotes or not. A new name that
+ * begins with a back quote is used as it is, unchecked. Any other new name is put between back
+ * quotes, and back quotes inside it are doubled. If two old names mean one variable, the later one
+ * in the array wins.
  *
  * @param expression  The text of the filter, in UTF-8.
  * @param length  Its length in bytes.
@@ -218,9 +240,9 @@ VORN_C_API vorn_answer* vorn_rename_utf16(const uint16_t* expression, size_t len
 /**
  * Releases an answer and all its strings.
  *
- * @param answer  What a question returned; a null pointer is ignored. To release an answer twice is
- *         an error of the host's: in a debug build of this library it ends the process with a
- *         message, in others it does what it likes.
+ * @param answer  The answer of a question. A null pointer is ignored. An answer must not be
+ * released twice: a debug build of this library then ends the process with a message, and other
+ *         builds have undefined behaviour.
  */
 VORN_C_API void vorn_release(vorn_answer* answer);
 
@@ -230,16 +252,16 @@ VORN_C_API void vorn_release(vorn_answer* answer);
 VORN_C_API int32_t vorn_error_kind(const vorn_answer* answer);
 
 /**
- * The line of an error of kind VORN_SYNTAX, counted from 1. Lines end at a line feed. It is 0 for
- * every other kind, and where a query is wrong but nests too deeply or takes too much work to be
- * searched for the place.
+ * The line of an error of kind VORN_SYNTAX, counted from 1. Lines end at a line feed. The line is 0
+ * for every other kind. It is also 0 if a query that is not valid nests too deeply, or takes too
+ * much work, for the place of the error to be found.
  */
 VORN_C_API size_t vorn_error_line(const vorn_answer* answer);
 /** The place in that line, in code points, counted from 0. A byte order mark is not counted. */
 VORN_C_API size_t vorn_error_column(const vorn_answer* answer);
 /**
  * The same place in the text as it was given, in units of its encoding: bytes or code units. A byte
- * order mark is counted. It is the length of the text where an end was not expected.
+ * order mark is counted. If the text ends too early, the offset is the length of the text.
  */
 VORN_C_API size_t vorn_error_offset(const vorn_answer* answer);
 
@@ -272,9 +294,9 @@ VORN_C_API const uint16_t* vorn_column_name_utf16(const vorn_answer* answer, siz
 /** What a column holds: one of enum vorn_type. */
 VORN_C_API int32_t vorn_column_type(const vorn_answer* answer, size_t column);
 
-/* Usages. Variables stand in ascending order of their names, and so do the forms in which one is
-   written, and labels; accesses in ascending order of property paths, then of labels. Names compare
-   by their code units in UTF-16, whatever the question's encoding. */
+/* Usages. Variables, the written forms of a variable and labels are in ascending order. Accesses
+   are in ascending order of property paths, then of labels. Names compare by their code units in
+   UTF-16, whatever the encoding of the question. */
 
 /** How many variables the filter uses. */
 VORN_C_API size_t vorn_variable_count(const vorn_answer* answer);
@@ -297,8 +319,9 @@ VORN_C_API const uint16_t* vorn_written_form_utf16(const vorn_answer* answer, si
                                                    size_t form, size_t* length);
 
 /**
- * In how many distinct ways the filter uses the variable. Each is a property path with the labels
- * that are tested behind it. A bare use, a subscript included, has neither.
+ * In how many distinct ways the filter uses the variable. Each way, called an access, is a property
+ * path with the labels that are tested behind it. A bare variable, as in `n` or `n[0]`, has neither
+ * path nor labels.
  */
 VORN_C_API size_t vorn_access_count(const vorn_answer* answer, size_t variable);
 
@@ -330,14 +353,16 @@ VORN_C_API const char* vorn_renamed_utf8(const vorn_answer* answer, size_t* leng
 VORN_C_API const uint16_t* vorn_renamed_utf16(const vorn_answer* answer, size_t* length);
 
 /**
- * Of usages and renaming: where the expression ends in the text as it was given, in units of its
- * encoding. It is the length of the text if nothing but white space and comments stands behind the
- * expression. Otherwise it is where the last token of the expression ends, and what follows was
- * dropped.
+ * Where the expression of a filter ends in the text as it was given, in units of its encoding. This
+ * is the length of the text if only white space and comments stand behind the expression. Otherwise
+ * it is the end of the expression's last token, and the text behind it was dropped.
  */
 VORN_C_API size_t vorn_expression_end(const vorn_answer* answer);
 
-/** The version of the library that is loaded, such as "1.0.0", in ASCII. Valid for ever. */
+/**
+ * The version of the library that is loaded, such as "1.0.0", in ASCII. The string is valid as long
+ * as the library is loaded.
+ */
 VORN_C_API const char* vorn_version(void);
 
 /** @cond */
