@@ -19,8 +19,10 @@ function(vorn_find_antlr_sources result)
   file(GLOB_RECURSE headers "${folder}/antlr4-runtime.h")
   list(LENGTH headers count)
   if(NOT count EQUAL 1)
-    message(FATAL_ERROR "The sources of one ANTLR runtime are not in ${VORN_ANTLR_SOURCE}. "
-                        "`make setup` puts them into its default place.")
+    message(FATAL_ERROR "Set VORN_ANTLR_SOURCE to the sources of the ANTLR C++ runtime "
+                        "${VORN_ANTLR_VERSION}, a folder or an archive, which are not in "
+                        "${VORN_ANTLR_SOURCE}; on Debian `make setup` in ${PROJECT_SOURCE_DIR} gets "
+                        "them.")
   endif()
   cmake_path(GET headers PARENT_PATH sources)
   set(${result} "${sources}" PARENT_SCOPE)

@@ -1,5 +1,5 @@
-# What an installation holds: libraries, headers, CMake package, pkg-config files, vorn-inspect. All of it
-# can be moved to another place as a whole.
+# What an installation holds: libraries, headers, CMake package, pkg-config files, notices, and
+# vorn-inspect with its man page and completion. All of it can be moved to another place as a whole.
 include(CMakePackageConfigHelpers)
 
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/VornLib")
@@ -54,4 +54,13 @@ if(TARGET vorn-inspect)
     "/prefix/${CMAKE_INSTALL_BINDIR}" "/prefix/${CMAKE_INSTALL_LIBDIR}")
   set_target_properties(vorn-inspect PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
   install(TARGETS vorn-inspect)
+  if(UNIX)
+    install(FILES "${PROJECT_SOURCE_DIR}/inspect/vorn-inspect.1"
+      DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+    install(FILES "${PROJECT_SOURCE_DIR}/inspect/vorn-inspect.bash-completion"
+      DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME vorn-inspect)
+  endif()
 endif()
+
+# The licences of what is inside.
+install(FILES "${PROJECT_SOURCE_DIR}/THIRD-PARTY.md" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/VornLib")

@@ -19,7 +19,7 @@ case "${1-}" in
     docs) packages="python3 python3-railroad-diagrams doxygen" ;;
     bench) packages="libbenchmark-dev valgrind python3" ;;
     abi) packages="abigail-tools" ;;
-    debian) packages="debhelper dpkg-dev fakeroot lintian devscripts bash-completion mmdebstrap" ;;
+    debian) packages="debhelper dpkg-dev fakeroot lintian devscripts mmdebstrap" ;;
     arm64) packages="g++-aarch64-linux-gnu qemu-user cmake ninja-build python3 xz-utils
                      googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev clang-14" ;;
     coverage) packages="gcovr" ;;

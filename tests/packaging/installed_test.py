@@ -91,6 +91,13 @@ class Installed(HostTest):
         if not (BUILD / "vorn-inspect").exists():
             self.skipTest("This build has no vorn-inspect.")
         self.assertIn(VERSION, self.run_command(INSTALLED / "bin" / "vorn-inspect", "--version"))
+        self.assertIn("vorn-inspect", (INSTALLED / "share" / "man" / "man1" / "vorn-inspect.1").read_text())
+        completion = INSTALLED / "share" / "bash-completion" / "completions" / "vorn-inspect"
+        self.run_command("bash", "-n", completion)
+
+    def test_holds_the_notices_of_what_is_inside(self) -> None:
+        notices = (INSTALLED / "share" / "doc" / "VornLib" / "THIRD-PARTY.md").read_text()
+        self.assertIn("ANTLR", notices)
 
 
 if __name__ == "__main__":
