@@ -12,8 +12,7 @@ namespace vorn {
 
 namespace {
 
-// The text of the element is given only if it is a single token. Tokens are separate objects, so
-// nothing may be read by stepping from the first one towards the last.
+// `element` is the text of an element that is a single token, and empty for any other.
 std::logic_error forbiddenElement(std::string_view typeName, std::string_view element) {
   constexpr std::size_t room = 96;
   std::string message;
@@ -22,7 +21,7 @@ std::logic_error forbiddenElement(std::string_view typeName, std::string_view el
   return std::logic_error(message.append("' is forbidden in a property filter expression."));
 }
 
-// Fails at the first element that brings variables or patterns of its own into a property filter.
+// Throws at the first element that brings its own variables or patterns into a property filter.
 class PropertyFilterListener : public TreeListener {
  public:
   PropertyFilterListener(const SyntaxTree& ofFilter, std::string_view* typeOfRejected)
@@ -50,7 +49,7 @@ class PropertyFilterListener : public TreeListener {
   const SyntaxTree& tree;
 
  private:
-  // Inline, for an exception takes as long for each function that it leaves as some parses do.
+  // Inline, because unwinding one more function takes as long as some parses.
   [[noreturn, gnu::always_inline]] inline void reject(std::string_view typeName,
                                                       const SyntaxTree::Node& node) const {
     if (rejectedType != nullptr) {
@@ -60,7 +59,7 @@ class PropertyFilterListener : public TreeListener {
                            node.first == node.last ? tree.textOf(node) : std::string_view());
   }
 
-  std::string_view* rejectedType;
+  std::string_view* rejectedType;  // receives the type of the rejected element; may be null
 };
 
 WideString wide(std::string_view utf8) {
@@ -76,8 +75,8 @@ std::map<WideString, VariableUsage> PropertyFilterExpressionInterrogator::comput
   struct Listener : PropertyFilterListener {
     using PropertyFilterListener::PropertyFilterListener;
 
-    // A variable counts where properties and labels can be read from it directly. In a filter
-    // without forbidden elements that is every place where one stands.
+    // In a filter without forbidden elements every variable is the atom of such an expression, so
+    // no use is missed.
     void exitOC_PropertyOrLabelsExpression(const SyntaxTree::Node& node) {
       const SyntaxTree::Node* const atom = tree.child(node, TreeRule::oC_Atom);
       const SyntaxTree::Node* const variable = tree.child(*atom, TreeRule::oC_Variable);
@@ -92,7 +91,7 @@ std::map<WideString, VariableUsage> PropertyFilterExpressionInterrogator::comput
           access.labels.insert(quotedWide(tree.textOf(child)));
         }
       });
-      // Most filters name one variable again and again.
+      // Most filters name the same variable again and again.
       if (const std::string_view name = tree.textOf(*variable); name != lastName) {
         lastName = name;
         lastUsage = &usages[quotedWide(name)];

@@ -25,7 +25,7 @@ bool isNodeOrRelationship(CypherType type) {
          type == CypherType::NodeOrRelationship;
 }
 
-// The order in which several types are merged makes no difference.
+// Several types may be merged in any order.
 CypherType mergedType(CypherType one, CypherType other) {
   if (one == other) {
     return one;
@@ -34,7 +34,7 @@ CypherType mergedType(CypherType one, CypherType other) {
                                                                   : CypherType::Unknown;
 }
 
-// Names without their quotes: views of the text, or of what is kept here.
+// Gives names without back quotes: views of the text, or of copies that are kept here.
 class Names {
  public:
   std::string_view of(std::string_view written) {
@@ -48,11 +48,12 @@ class Names {
   std::forward_list<std::string> unquoted_;
 };
 
-// The variables that a query has bound so far, and what a star stood for among them. A scope is not
-// copied at a star: most are not asked for it, and a text may hold many of both.
+// The variables that a query has bound so far, and those that its last star stands for. A star does
+// not copy the variables: a text may hold many of both, and most stars are never asked for them. So
+// only what changes after the star is noted.
 class Scope {
  public:
-  /// Whether that changes what was bound before.
+  // Returns whether a name is new or changes its type.
   bool bind(std::string_view name, CypherType type) {
     const auto [entry, isNew] = types_.try_emplace(name, type);
     const bool isChange = isNew || entry->second != type;
@@ -64,9 +65,10 @@ class Scope {
     return isChange;
   }
 
-  /// The type of a variable that is written so; Unknown if there is none.
+  // The type of the variable that is written like this; Unknown if there is none.
   [[nodiscard]] CypherType typeOf(std::string_view written) const {
-    // Of three bytes at least one is left when quotes are taken out, but for two of them.
+    // Unquoting keeps at least one of every three bytes, apart from two bytes in all. So a longer
+    // text is not the name of any variable.
     if (written.size() > 3 * longestName_ + 2) {
       return CypherType::Unknown;
     }
@@ -77,7 +79,7 @@ class Scope {
 
   [[nodiscard]] bool isStarred() const { return isStarred_; }
 
-  /// The star stands for what is bound now.
+  // From here on the star stands for the variables that are bound now.
   void star() {
     unstar();
     isStarred_ = true;
@@ -88,7 +90,8 @@ class Scope {
     beforeStar_.clear();
   }
 
-  /// Calls the action with each name, in order, and type that the star stands for, if there is one.
+  // Calls the action with the name and the type of each variable that the star stands for, ordered
+  // by name. Without a star it does nothing.
   template <typename Action>
   void forEachStarred(const Action& action) const {
     for (auto entry = types_.begin(); isStarred_ && entry != types_.end(); ++entry) {
@@ -101,11 +104,12 @@ class Scope {
   }
 
  private:
+  // The type before the star of a name that was bound only afterwards.
   static constexpr auto unbound = static_cast<CypherType>(-1);
 
   std::map<std::string_view, CypherType> types_;
-  std::map<std::string_view, CypherType> beforeStar_;  // of what was bound since then
-  std::size_t longestName_ = 0;
+  std::map<std::string_view, CypherType> beforeStar_;  // of the names bound since the star
+  std::size_t longestName_ = 0;                        // in bytes
   bool isStarred_ = false;
 };
 
@@ -147,8 +151,8 @@ CypherInterrogator::CypherInterrogator(std::string_view query, antlr4::ANTLRErro
 
 // NOLINTNEXTLINE(readability-function-cognitive-complexity): of all operations of the local class.
 std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultColumnNamesAndTypes() {
-  // All work is done when a construct is entered. So a projection inside an expression, which the
-  // walk reaches after the projection around it, replaces that one's columns.
+  // Columns are found when a projection is entered. A projection inside an expression is entered
+  // after the one around it, and so replaces the outer columns.
   class ResultColumnNamesAndTypesListener : public TreeListener {
    public:
     explicit ResultColumnNamesAndTypesListener(const SyntaxTree& ofQuery) : tree(ofQuery) {
@@ -158,7 +162,7 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
 
     // Names bound in an earlier branch stay visible in the later ones.
     void enterOC_Union(const SyntaxTree::Node& /*node*/) {
-      // To merge the same star once more changes nothing, and a long query may have many of them.
+      // Merging the same star again changes nothing, and a long query may have many such branches.
       const bool isStarOnly = variables.isStarred() && columns.empty();
       if (!isStarOnly || starChanges != mergedChanges) {
         mergeBranch();
@@ -180,7 +184,7 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
       clearColumns();
       std::vector<Column> carried;
       tree.forEachChild(node, [&](const SyntaxTree::Node& item) { project(item, carried); });
-      // It is the first item, if there is one.
+      // A star can only be the first item.
       const bool isStarred = tree.textOf(node.first) == "*";
       if (isStarred) {
         variables.star();
@@ -202,8 +206,8 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
       bind(node, CypherType::Relationship);
     }
 
-    // Names and number of the columns are the last branch's; columns that another one lacks are
-    // left as they are.
+    // The last branch gives the names and the number of the columns. The type of a column that the
+    // earlier branches lack stays as it is.
     [[nodiscard]] std::vector<std::pair<WideString, CypherType>> result() {
       std::vector<std::pair<WideString, CypherType>> merged;
       merged.reserve(columns.size());
@@ -248,7 +252,7 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
       const CypherType type = variables.typeOf(written);
       const auto* const alias = tree.child(item, TreeRule::oC_Variable);
       columns.push_back({alias == nullptr ? written : tree.textOf(*alias), type});
-      // A bound variable of unknown kind passes a WITH only under an alias, be it its own name.
+      // A variable of unknown type passes a WITH only under an alias, even if that is its own name.
       if (insideWith && (alias != nullptr || type != CypherType::Unknown)) {
         carried.push_back(columns.back());
       }
@@ -263,10 +267,10 @@ std::vector<std::pair<WideString, CypherType>>& CypherInterrogator::getResultCol
     Names names;
     Scope variables;
     bool insideWith = false;
-    std::vector<Column> columns;               // of the last projection, behind those of a star
-    std::vector<CypherType> previousBranches;  // of the columns, merged by position
-    // How often variables may have changed: by now, before the last star, and before the last one
-    // that was merged.
+    std::vector<Column> columns;               // of the last projection, after those of its star
+    std::vector<CypherType> previousBranches;  // types of the columns, merged by position
+    // How often the variables may have changed: so far, before the last projection, and before the
+    // last star that was merged.
     std::size_t changes = 1;
     std::size_t starChanges = 0;
     std::size_t mergedChanges = 0;

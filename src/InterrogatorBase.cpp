@@ -5,7 +5,7 @@
 
 namespace vorn {
 
-// NOLINTBEGIN(cppcoreguidelines-pro-type-member-init): the first memory is raw.
+// NOLINTBEGIN(cppcoreguidelines-pro-type-member-init): firstMemory is raw memory.
 
 InterrogatorBase::InterrogatorBase(const WideString& text)
     : utf8Text(StringUtf8ImplDetail::StringWideCharToUtf8Impl(text)), tree(utf8Text, &treeMemory) {

@@ -11,8 +11,8 @@
 
 namespace vorn {
 
-/// Owns one text and what it is parsed into. The derived classes choose the start rule and compute
-/// answers from the tree.
+/// One text, its tokens and its tree. The derived classes choose the start rule and compute answers
+/// from the tree.
 class InterrogatorBase {
  public:
   InterrogatorBase(const InterrogatorBase&) = delete;
@@ -22,21 +22,21 @@ class InterrogatorBase {
   virtual ~InterrogatorBase();
 
  protected:
-  /// Divides the text into tokens.
+  /// Converts the text to UTF-8 and divides it into tokens.
   explicit InterrogatorBase(const WideString& text);
 
-  /// The same for a text that is well-formed UTF-8 already. It must outlive the interrogator.
+  /// The same for well-formed UTF-8, which must outlive the interrogator.
   explicit InterrogatorBase(std::string_view utf8);
 
-  std::string utf8Text;  // empty if the text was given so
+  std::string utf8Text;  // empty if the text was given in UTF-8
 
  private:
-  // Holds the tree of a short text, which then needs no block from the heap.
+  // The tree of a short text fits in here and takes nothing from the heap.
   std::array<std::byte, 2 * std::size_t{1024}> firstMemory;
   std::pmr::monotonic_buffer_resource treeMemory{firstMemory.data(), firstMemory.size()};
 
  protected:
-  SyntaxTree tree;  // refers to the text
+  SyntaxTree tree;  // refers to utf8Text, or to the text that was given in UTF-8
 };
 
 }  // namespace vorn

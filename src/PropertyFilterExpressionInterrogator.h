@@ -14,21 +14,21 @@ class ANTLRErrorListener;
 
 namespace vorn {
 
-/// A property filter, which is one expression: parsed by the constructor, asked for its variables
-/// or rewritten with new names for them.
+/// A property filter, which is one expression. The constructor parses it; the operations find its
+/// variables or rename them.
 class PropertyFilterExpressionInterrogator : private InterrogatorBase {
  public:
-  /// Throws antlr4::ParseCancellationException if `expression` begins with no openCypher
-  /// expression, and std::length_error if it nests too deeply for the stack.
+  /// Throws antlr4::ParseCancellationException if `expression` does not begin with an openCypher
+  /// expression, and std::length_error if it nests too deeply for the stack or takes too long.
   explicit PropertyFilterExpressionInterrogator(const WideString& expression);
 
-  /// The same for a filter in well-formed UTF-8, which must outlive the interrogator. The listener,
-  /// which must throw, is told of the error instead.
+  /// The same for a filter in well-formed UTF-8, which must outlive the interrogator. A syntax
+  /// error goes to `errors`, which must throw.
   PropertyFilterExpressionInterrogator(std::string_view expression,
                                        antlr4::ANTLRErrorListener& errors);
 
-  /// Throws std::logic_error at the first element that has no place in a property filter. Stores
-  /// its type, "OC_Quantifier" for instance, if there is a place for it.
+  /// Throws std::logic_error at the first element that a property filter must not hold. Before that
+  /// stores the type of the element, such as "OC_Quantifier", unless `forbiddenType` is null.
   [[nodiscard]] std::map<WideString, VariableUsage> computeVariablesUsages(
       std::string_view* forbiddenType = nullptr) const;
 
@@ -36,12 +36,12 @@ class PropertyFilterExpressionInterrogator : private InterrogatorBase {
   [[nodiscard]] WideString replaceVariableNames(
       const std::unordered_map<WideString, WideString>& renames) const;
 
-  /// The same in UTF-8, with names that are back-quoted on both sides.
+  /// The same in UTF-8. Old and new names must be back-quoted.
   [[nodiscard]] std::string replaceQuotedNames(
       const std::unordered_map<std::string, std::string>& renames) const;
 
-  /// Where the expression ends, in bytes of UTF-8: at the end of the text, if nothing but white
-  /// space stands behind its last token.
+  /// The end of the expression as an offset into the UTF-8. White space that ends the text counts
+  /// as part of the expression.
   [[nodiscard]] std::size_t expressionEnd() const;
 
  private:

@@ -30,8 +30,9 @@ WideString PropertyFilterExpressionInterrogator::replaceVariableNames(
 
 std::string PropertyFilterExpressionInterrogator::replaceQuotedNames(
     const std::unordered_map<std::string, std::string>& renames) const {
-  // White space and comments are tokens too, so the tokens in text order are the text. Unlike the
-  // search for usages this does not validate: variables inside forbidden elements are renamed too.
+  // White space and comments are tokens too, so the tokens in their order are the whole text.
+  // Unlike the search for usages this does not validate: variables inside forbidden elements are
+  // renamed too.
   struct Listener : TreeListener {
     Listener(const SyntaxTree& ofFilter, const std::unordered_map<std::string, std::string>& given)
         : tree(ofFilter), renames(given) {}
@@ -55,7 +56,7 @@ std::string PropertyFilterExpressionInterrogator::replaceQuotedNames(
     const SyntaxTree& tree;
     const std::unordered_map<std::string, std::string>& renames;
     std::string output;
-    std::string_view unchanged;  // behind what is in the output already
+    std::string_view unchanged;  // the text since the last renamed variable, not yet in `output`
     bool insideVariable = false;
   };
 

@@ -11,9 +11,8 @@ namespace vorn {
 /// The name between back quotes. A name that begins with one counts as quoted and is left as it is.
 std::string quoteSymbolicName(std::string_view name);
 
-/// The text with its back quotes taken out, wherever they stand, but for one of each doubled back
-/// quote inside a quoted name. It knows no string literals: back quotes in them count like any
-/// others.
+/// The text without back quotes, wherever they stand. A doubled back quote inside a quoted name
+/// becomes a single one. String literals are no exception: their back quotes go too.
 std::string unquoteSymbolicName(std::string_view text);
 
 }  // namespace vorn

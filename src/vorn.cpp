@@ -5,7 +5,7 @@
 
 namespace vorn {
 
-// The one function that reports failure by a status: the other two throw.
+// Only this function reports a failure by a status. The other two throw.
 std::int32_t GetOutputNamesAndTypes(
     const WideString& query, std::vector<std::pair<WideString, CypherType>>& columns) noexcept {
   try {

@@ -20,8 +20,8 @@ namespace {
 using antlr4::tree::ParseTreeTracker;
 using Nodes = std::vector<antlr4::tree::ParseTree*>;
 
-// The tracker that owns the nodes is a class with private members and no operation to make room.
-// An explicit instantiation may name them.
+// The tracker owns the nodes in a private vector and offers no way to reserve memory for it. An
+// explicit instantiation may name the private member.
 Nodes& nodesOf(ParseTreeTracker& tracker);
 template <Nodes ParseTreeTracker::*member>
 struct NodesOf {
@@ -29,8 +29,8 @@ struct NodesOf {
 };
 template struct NodesOf<&ParseTreeTracker::_allocated>;
 
-// The tracker loses a node that it finds no room for, so that there always is room for the next
-// terminal node and the next rule.
+// The tracker leaks a new node if its vector cannot grow. So the vector grows before: it always has
+// room for the next terminal node and the next rule.
 class LeakFreeParser final : public CypherParser {
  public:
   explicit LeakFreeParser(antlr4::TokenStream* input) : CypherParser(input) { makeRoom(); }
@@ -54,7 +54,7 @@ class LeakFreeParser final : public CypherParser {
   }
 };
 
-// The runtime installs a listener that prints to the console; nothing may reach it.
+// Replaces the listener that the runtime installs, which prints to the console.
 void tellOfErrors(antlr4::Recognizer& recognizer, antlr4::ANTLRErrorListener& listener) {
   recognizer.removeErrorListeners();
   recognizer.addErrorListener(&listener);
@@ -68,7 +68,7 @@ AntlrPipeline::AntlrPipeline(std::string_view utf8, antlr4::ANTLRErrorListener& 
   buildRecogniserTables();
   lexer_ = std::make_unique<CypherLexer>(input_.get());
   tellOfErrors(*lexer_, errors);
-  // The runtime's own factory is gone at the end of the process.
+  // The runtime destroys its own factory at the end of the process, while calls may still need it.
   lexer_->setTokenFactory(&neverDestroyed<antlr4::CommonTokenFactory>());
   lexer_->setInterpreter(new TableLexerSimulator(*lexer_));
   tokens_ = std::make_unique<antlr4::CommonTokenStream>(lexer_.get());

@@ -1,3 +1,16 @@
+// Prediction chooses an alternative of a decision by the tokens ahead. It follows all alternatives
+// at once. A configuration is a state of the grammar's network, the alternative that leads there,
+// and the context: the calls of rules on the way. Each token leads from a set of configurations to
+// the next set, until only one alternative is left.
+//
+// The first try does without the full context: it does not know which rule has called the rule of
+// the decision (simulate). Its sets are the prediction cache, which belongs to the call: a State
+// remembers where each token leads, so a set is computed once. Where alternatives conflict, the
+// second try has the full context (simulateWithContext). Its sets are not kept.
+//
+// Every step costs work, a new set far more than a known one. The bound on the work ends the calls
+// that would take too long (spend).
+
 #include "antlr/CallPredictor.h"
 
 #include <NoViableAltException.h>
@@ -31,8 +44,8 @@ using antlr4::atn::PredictionModeClass;
 
 namespace {
 
-// In units of a step along what is known already, which takes some 0.2 us; to reach a configuration
-// takes 2 to 3 us.
+// Work is counted in steps along known states, which take some 0.2 us each. To reach a
+// configuration takes 2 to 3 us.
 constexpr std::size_t workOfConfiguration = 16;
 
 }  // namespace
@@ -40,10 +53,11 @@ constexpr std::size_t workOfConfiguration = 16;
 CallPredictor::CallPredictor(antlr4::Parser& itsParser, std::size_t maxConfigurations)
     : ParserATNSimulator(&itsParser, itsParser.getATN(), noStates_, noContexts_),
       workLeft_(maxConfigurations * workOfConfiguration) {
-  _dfa = nullptr;  // the base class leaves it undefined
+  _dfa = nullptr;  // the base class leaves it uninitialised
 }
 
-// The last first: a context is released by recursion over those that nothing else refers to.
+// The last ones go first. A context releases its parents by recursion if nothing else refers to
+// them, and in this order something still does.
 CallPredictor::~CallPredictor() {
   while (!states_.empty()) {
     states_.pop_back();
@@ -140,13 +154,14 @@ CallPredictor::State& CallPredictor::next(State& state, std::size_t symbol) {
   return *known;
 }
 
-// The alternative that was complete where the text went on with nothing that fits, or the error.
+// For a token that fits no alternative: returns the alternative that was complete before the token,
+// or throws the error.
 std::size_t CallPredictor::finishedAlternative(ATNConfigSet& configurations,
                                                antlr4::TokenStream& input, std::size_t start,
                                                antlr4::ParserRuleContext* outerContext) {
   const std::size_t alternative = getAltThatFinishedDecisionEntryRule(&configurations);
   if (alternative == 0) {
-    // Nobody looks at the configurations of the error.
+    // The error gets no configurations, since nothing reads them.
     // NOLINTNEXTLINE(cert-err60-cpp): the type is the runtime's
     throw noViableAlt(&input, outerContext, nullptr, start, false);
   }
@@ -173,8 +188,8 @@ CallPredictor::Configurations CallPredictor::reachSet(ATNConfigSet& from, std::s
   return reach;
 }
 
-// As in the runtime, but with an owner for the set, and without the case that no call leads to: in
-// front of the end of the text the closure of a set is never left out.
+// As in the runtime, but the set has an owner while it is filled. `lookToEndOfRule` is never true:
+// it stands for a closure that was left out, and before the end of the text none is.
 ATNConfigSet* CallPredictor::removeAllConfigsNotInRuleStopState(ATNConfigSet* configurations,
                                                                 bool /*lookToEndOfRule*/) {
   if (PredictionModeClass::allConfigsInRuleStopStates(configurations)) {
@@ -189,8 +204,8 @@ ATNConfigSet* CallPredictor::removeAllConfigsNotInRuleStopState(ATNConfigSet* co
   return ended.release();
 }
 
-// The runtime builds such a chain anew for each prediction, and hashes and releases it by recursion
-// over all open rules.
+// The contexts of rules that are still open are kept from one prediction to the next. The runtime
+// would build them anew each time, and hash and release them by recursion over all open rules.
 CallPredictor::Context CallPredictor::contextOf(const antlr4::RuleContext* innermost) {
   std::vector<const antlr4::RuleContext*> rules;
   for (const auto* rule = innermost; rule->parent != nullptr;
@@ -211,7 +226,7 @@ CallPredictor::Context CallPredictor::contextOf(const antlr4::RuleContext* inner
     Context context = antlr4::atn::SingletonPredictionContext::create(
         openRules_.empty() ? PredictionContext::EMPTY : openRules_.back().second,
         call.followState->stateNumber);
-    context->hashCode();
+    context->hashCode();  // cached by the context, so hashing the next one does not recurse
     openRules_.emplace_back(*rule, std::move(context));
   }
   return openRules_.empty() ? PredictionContext::EMPTY : openRules_.back().second;

@@ -13,11 +13,12 @@
 
 namespace vorn {
 
-/// Predicts as the runtime does, by tables that belong to the call. The compiled lookahead answers
-/// what it can; the rest is simulated, which throws std::length_error where it takes too long.
+/// Predicts as the runtime does, with a prediction cache that belongs to the call. The compiled
+/// lookahead answers what it can. The rest is simulated, which throws std::length_error if it takes
+/// too long.
 class CallPredictor final : public antlr4::atn::ParserATNSimulator {
  public:
-  /// The bound holds for all predictions together.
+  /// `maxConfigurations` bounds all predictions together.
   CallPredictor(antlr4::Parser& itsParser, std::size_t maxConfigurations);
 
   CallPredictor(const CallPredictor&) = delete;
@@ -37,12 +38,12 @@ class CallPredictor final : public antlr4::atn::ParserATNSimulator {
   using Configurations = std::unique_ptr<antlr4::atn::ATNConfigSet>;
   using Context = std::shared_ptr<const antlr4::atn::PredictionContext>;
 
-  // What prediction without the full context knows behind the tokens that lead here.
+  // Where some tokens lead without the full context.
   struct State {
-    Configurations configurations;  // none where no alternative goes on
-    std::size_t alternative = 0;    // once only one is left
-    bool isConflict = false;
-    std::unordered_map<std::size_t, State*> next = {};  // by token type
+    Configurations configurations;                      // null where no alternative goes on
+    std::size_t alternative = 0;                        // the only one that is left, or 0
+    bool isConflict = false;                            // the full context must decide
+    std::unordered_map<std::size_t, State*> next = {};  // by token type; states_ owns them
   };
 
   State& startOf(std::size_t decision);
@@ -59,14 +60,15 @@ class CallPredictor final : public antlr4::atn::ParserATNSimulator {
   Context contextOf(const antlr4::RuleContext* innermost);
   void spend(std::size_t work);
 
-  // The base class refers to them, and nothing enters them.
+  // The base class refers to these two, which stay empty.
   std::vector<antlr4::dfa::DFA> noStates_;
   antlr4::atn::PredictionContextCache noContexts_;
 
-  std::deque<State> states_;
-  std::unordered_map<std::size_t, State*> starts_;  // by decision
+  std::deque<State> states_;                        // a deque, so that no state moves
+  std::unordered_map<std::size_t, State*> starts_;  // by decision; states_ owns them
+  // The rules that were open at the last prediction with the full context, outermost first.
   std::vector<std::pair<const antlr4::RuleContext*, Context>> openRules_;
-  std::size_t workLeft_;
+  std::size_t workLeft_;  // in steps along known states
 };
 
 }  // namespace vorn

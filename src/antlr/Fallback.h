@@ -8,13 +8,13 @@ namespace vorn {
 
 struct SyntaxTree;
 
-/// Parses the tree's text as an expression by the ANTLR pipeline, which drops what stands behind a
-/// complete one. For a text that the compiled parser does not take as a whole.
-/// The listener, which must throw, is told of the first lexical or syntax error. Throws
-/// std::length_error if the text nests too deeply for the stack or takes too long.
+/// Parses the tree's text as an expression with the ANTLR pipeline, and drops what stands behind a
+/// complete one. Meant for a text that the compiled parser does not take as a whole. The first
+/// lexical or syntax error goes to `errors`, which must throw. Throws std::length_error if the text
+/// nests too deeply for the stack or takes too long.
 void parseExpressionByAntlr(SyntaxTree& tree, antlr4::ANTLRErrorListener& errors);
 
-/// Tells the listener, which must throw, of the first error in a query that the compiled parser
+/// Tells `errors`, which must throw, of the first error in a query that the compiled parser
 /// refuses. Throws std::length_error if the text nests too deeply for the stack or takes too long.
 void findErrorInQueryByAntlr(const SyntaxTree& tree, antlr4::ANTLRErrorListener& errors);
 

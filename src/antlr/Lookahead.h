@@ -8,9 +8,9 @@ class TokenStream;
 
 namespace vorn {
 
-/// The alternative that prediction without the full context takes at this decision, if the next
-/// tokens tell and no conflict arises; else 0. Looks at a token only if those before it leave more
-/// than one alternative.
+/// The alternative that prediction without the full context takes at this decision, or 0 if the
+/// next tokens do not tell or alternatives conflict. Looks at a token only if the tokens before it
+/// leave several alternatives.
 std::size_t lookaheadAlternative(std::size_t decision, antlr4::TokenStream& tokens);
 
 }  // namespace vorn

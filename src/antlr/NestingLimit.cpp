@@ -11,14 +11,14 @@ namespace vorn {
 
 namespace {
 
-// What a parse needs at any depth: prediction within one level, and throwing. Measured are 24 KiB.
+// What a parse needs at any depth, to predict within one level and to throw. Measured: 24 KiB.
 constexpr std::size_t reserve = std::size_t{32} * 1024;
 
-// The parser takes some 1,000 bytes, and the search for what may follow an error as much again and
-// a half: 2,450 at most. Windows takes 1.6 times as much.
+// Measured for a level: 2,450 bytes at most, some 1,000 of them in the parser and the others in the
+// search for the tokens that may follow an error. Windows takes 1.6 times as much.
 constexpr std::size_t bytesOfLevel = 3840;
 
-// The grammar's symbols for brackets have no names of their own.
+// The grammar writes these tokens as literals, so the lexer only numbers them.
 enum Symbol : std::size_t {
   comma = CypherLexer::T__1,
   openParenthesis = CypherLexer::T__5,
@@ -32,17 +32,18 @@ enum Symbol : std::size_t {
   closeBrace = CypherLexer::T__24,
 };
 
-// Reserved words serve as names too. No expression ends in one of these, so behind them END is one.
+// Whether END is a name behind this token. Reserved words may be names, and no expression ends in
+// one of these tokens.
 bool isBeforeName(std::size_t type) {
   return type == dot || type == colon || type == comma || type == bar || type == openBrace;
 }
 
-// The levels that are open at the deepest place. It may count too many, but not too few: behind a
-// bracket that does not match, nobody reads on.
+// How many levels are open at the deepest place. The count may be too high but never too low: the
+// parser does not read past a bracket that does not match.
 std::size_t deepestLevel(const std::uint8_t* tokenTypes, std::size_t count) {
   struct Bracket {
-    std::size_t around;  // levels
-    std::size_t cases;   // that are open inside
+    std::size_t around;  // levels that are open around it
+    std::size_t cases;   // CASE expressions that are open directly inside it
   };
   std::vector<Bracket> brackets{{0, 0}};
   std::size_t open = 0;
@@ -54,7 +55,7 @@ std::size_t deepestLevel(const std::uint8_t* tokenTypes, std::size_t count) {
     }
     if (type == openParenthesis || type == openSquare || type == openBrace) {
       brackets.push_back({open, 0});
-      // A subquery takes more rules from one bracket to the next.
+      // A subquery takes more stack than a bracket, since the parser passes more rules.
       open += last == CypherLexer::EXISTS ? 2 : 1;
     } else if (type == closeParenthesis || type == closeSquare || type == closeBrace) {
       open = brackets.back().around;

@@ -10,7 +10,7 @@
 
 namespace vorn {
 
-// In the generated sources, which know the tables.
+// Defined in the generated sources, which hold the static data.
 void buildLexerTables();
 void buildParserTables();
 void releaseLexerTables();
@@ -18,7 +18,8 @@ void releaseParserTables();
 
 namespace {
 
-// The runtime's static objects go at the end of the process, while calls may still need them.
+// The runtime destroys its static objects at the end of the process, while calls may still need
+// them. So a second owner keeps these two.
 struct KeptAlive {
   std::shared_ptr<const antlr4::atn::PredictionContext> context =
       antlr4::atn::PredictionContext::EMPTY;
@@ -26,7 +27,7 @@ struct KeptAlive {
       antlr4::atn::SemanticContext::NONE;
 };
 
-// For what is done once: an exception that leaves `action` leaves it undone.
+// Initialises a static variable by `action`. If `action` throws, the next call runs it again.
 template <typename Action>
 bool done(Action action) {
   action();

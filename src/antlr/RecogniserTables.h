@@ -2,9 +2,8 @@
 
 namespace vorn {
 
-/// Builds the tables of the generated lexer and parser, and sees to it that they go with the
-/// library when a host unloads it. Only the first call does anything, and one after a call that
-/// failed.
+/// Builds the static data of the generated lexer and parser, and has it released when a host
+/// unloads the library. Later calls do nothing, unless the calls before have failed.
 void buildRecogniserTables();
 
 }  // namespace vorn

@@ -17,7 +17,7 @@ class TableLexerSimulator final : public antlr4::atn::LexerATNSimulator {
   std::size_t match(antlr4::CharStream* input, std::size_t mode) override;
 
  private:
-  // The base class refers to them, and nothing enters them.
+  // The base class refers to these two, which stay empty.
   std::vector<antlr4::dfa::DFA> noStates_;
   antlr4::atn::PredictionContextCache noContexts_;
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-// Apart from the throw, so that the unwinder need not look past all that this has to clean up.
+// A function of its own, so that the unwinder need not pass all that this has to clean up.
 [[gnu::noinline]] std::string messageAt(std::size_t line, std::size_t column,
                                         const std::string& message) {
   return "line " + std::to_string(line) + ":" + std::to_string(column) + " " + message;
@@ -17,7 +17,7 @@ namespace {
 
 }  // namespace
 
-// Half destroyed it would take every text for an error-free one.
+// Never destroyed: a destroyed listener would no longer throw, and every text would seem correct.
 ThrowingErrorListener& ThrowingErrorListener::instance() {
   return vorn::neverDestroyed<ThrowingErrorListener>();
 }

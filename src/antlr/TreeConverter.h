@@ -8,7 +8,7 @@ namespace vorn {
 
 struct SyntaxTree;
 
-/// Makes nodes of the tree of those in an ANTLR tree over the same tokens, in place of its own.
+/// Replaces the nodes of `to` by those of an ANTLR tree over the same tokens.
 void convertNodes(antlr4::ParserRuleContext& from, SyntaxTree& to);
 
 }  // namespace vorn

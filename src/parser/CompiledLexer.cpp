@@ -1,11 +1,10 @@
 // The lexer follows an automaton that is compiled from the lexer rules of the grammar. From the
-// start of a token it goes on as long as some token may still match, and takes the last place where
-// one did: the longest match, and of equally long ones that of the first rule.
+// start of a token it reads as long as some token may still match. Then it takes the longest match,
+// and of equally long matches that of the first rule.
 //
-// Where a token ends long before the place that the automaton came to, as in a comment without an
-// end, the next token might look through the same text again. So the way of such a failure is
-// remembered: in the same state at the same place another token fails as well. That keeps the time
-// linear.
+// The automaton may read far past the token that it takes, as in a comment that is never closed.
+// The next token could then read the same text again. So the lexer remembers the states and places
+// that such a failure has passed: a later token fails there as well. That keeps the time linear.
 
 #include "parser/CompiledLexer.h"
 
@@ -31,7 +30,7 @@ class Lexer {
 
   void run() {
     const std::size_t size = tree_.text.size();
-    // The nodes, up to two for each byte, are numbered by 32 bits.
+    // Nodes have 32-bit numbers, and a text may have two of them for each byte.
     constexpr std::size_t longest = std::size_t{1} << 30U;
     if (size > longest) {
       throw std::length_error("the openCypher text is too long");
@@ -64,11 +63,12 @@ class Lexer {
 
  private:
   struct Token {
-    std::uint8_t type;  // 0 if there is none
+    std::uint8_t type;  // 0 if no token matches
     const unsigned char* end;
   };
 
-  // Tokens of three bytes are usual, shorter ones are not rare, and some texts are one long token.
+  // The first block has room for a token of every two bytes, since most tokens are longer. For a
+  // long text it is smaller, since the text may be a single token.
   static constexpr std::size_t mostAtOnce = std::size_t{1} << 20U;
   static constexpr std::size_t endsOfText = SyntaxTree::longestLookahead + 1;
 
@@ -101,7 +101,8 @@ class Lexer {
     return {LexerTables::classOf(codePoint), at};
   }
 
-  // The type of a token of one ASCII character, if a look at the next one tells that it is one.
+  // The type of the token if it is a single ASCII character and the next character shows that it
+  // ends here; else 0.
   [[nodiscard]] std::uint8_t singleCharacterAt(const unsigned char* at) const {
     if (*at >= LexerTables::beginnings.size() || at + 1 == end_) {
       return 0;
@@ -160,8 +161,8 @@ class Lexer {
   SyntaxTree& tree_;
   const unsigned char* begin_;
   const unsigned char* end_;
-  std::size_t room_ = 0;                     // for tokens
-  std::vector<std::vector<bool>> failures_;  // by state and place: whether no token came of it
+  std::size_t room_ = 0;                     // how many tokens fit into the tree's vectors
+  std::vector<std::vector<bool>> failures_;  // by state and place; empty before the first failure
 };
 
 // NOLINTEND(cppcoreguidelines-pro-bounds-*,cppcoreguidelines-pro-type-reinterpret-cast)

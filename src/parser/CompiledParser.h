@@ -6,13 +6,13 @@ namespace vorn {
 
 enum class Verdict { Accepted, Refused, TooDeep };
 
-/// Parses the tree's tokens as a whole query and adds its nodes. They are complete only if the
-/// query is accepted.
+/// Parses the tree's tokens as a whole query and adds nodes to the tree. The nodes are complete
+/// only if the query is accepted.
 Verdict parseQuery(SyntaxTree& tree);
 
-/// The same for one expression from the first to the last token. White space may stand behind it:
-/// each decision that reads so far finds the end of the text there, and can only leave the
-/// expression.
+/// The same for one expression, which must be the whole text apart from white space at its end. No
+/// decision takes that white space for a part of the expression, since only the end of the text
+/// follows.
 Verdict parseExpression(SyntaxTree& tree);
 
 }  // namespace vorn

@@ -1,14 +1,14 @@
 #pragma once
 
-// The compiled parser is one function for each rule of the grammar, which takes the rule's tokens
-// from the current position on and says whether they are there. Looking up to three tokens ahead
-// decides between alternatives, but for the few places where they are tried in order.
+// The compiled parser has one function for each rule of the grammar. The function takes the rule's
+// tokens from the current position on and returns whether they are there. Up to three tokens ahead
+// decide between alternatives. In a few places the alternatives are tried in order instead.
 //
-// A trial only recognises: it adds no nodes. What the trials inside it find is remembered by token,
-// so none of them is made twice, however deep they lie, and the time stays linear. Behind a trial
-// the parser goes on along what is remembered, and never has to take back a node.
+// A trial only recognises text and adds no nodes. The results of trials inside a trial are
+// remembered by token. So none of them is made twice, however deep the nesting, and the time stays
+// linear. After a trial the parser follows the remembered results, and never takes back a node.
 //
-// Nothing is thrown on the way. The stack is looked at in those rules that every recursion passes.
+// The functions throw nothing. The rules that every recursion passes check the stack.
 
 #include <array>
 #include <cstddef>
@@ -41,18 +41,18 @@ class TokenSet {
   std::array<std::uint64_t, 3> words_{};
 };
 
-/// What the functions of the rules are made of. `Rules` derives from it.
+/// What the functions of the rules are made of. `Rules`, the class that has them, derives from it.
 template <typename Rules>
 class RuleParser {
  public:
   using Rule = bool (Rules::*)();
 
   explicit RuleParser(SyntaxTree& tree) : tree_(tree), types_(tree.types.data()) {
-    // Some texts have more nodes than tokens, few have many more.
+    // Few texts have many more nodes than tokens.
     tree.nodes.reserve(tree.tokenCount());
   }
 
-  /// A last token of the given type may follow.
+  /// Parses the whole text by the rule `start`. One token of the type `follower` may stand behind.
   Verdict parse(Rule start, std::uint8_t follower = SyntaxTree::endOfText) {
     bool matches = tree_.isWhole && call(start);
     skip(follower);
@@ -109,7 +109,7 @@ class RuleParser {
     if (isTrial_ || isTried()) {
       return takeTried(tried(rules.data(), count), rules.data());
     }
-    // If no other one matches, the parse itself finds out about the last one.
+    // The last rule needs no trial: if no other rule matches, the parse itself tells.
     constexpr std::size_t last = count - 1;
     const Trial trial = tryInOrder(rules.data(), last);
     return !isTooDeep_ && call(rules[trial.end == failed ? last : trial.rule]);
@@ -119,10 +119,10 @@ class RuleParser {
   bool takeIfMatches(Rule rule) { return takeTried(tried(&rule, 1), &rule); }
 
  private:
-  // What a trial has found at a token. No rule that is tried matches nothing.
+  // The result of a trial at a token. A match is never empty, so no match ends at token 0.
   struct Trial {
-    std::uint32_t end;   // of what was matched, as a token
-    std::uint32_t rule;  // that matched, by its place among those tried
+    std::uint32_t end;   // the token behind the match, `untried` or `failed`
+    std::uint32_t rule;  // the index of the rule that matched
   };
   static constexpr std::uint32_t untried = 0;
   static constexpr std::uint32_t failed = 0xFFFFFFFF;
@@ -171,7 +171,7 @@ class RuleParser {
     return call(rules[trial.rule]);
   }
 
-  // To ask the system takes longer than to parse a short text, so that waits until a text nests.
+  // Asking the system takes longer than parsing a short text, so it waits until a text nests.
   std::uintptr_t knownStackEnd() {
     if (!isStackKnown_) {
       isStackKnown_ = true;
@@ -180,21 +180,21 @@ class RuleParser {
     return stackEnd_;
   }
 
-  // Every stack has this much left.
+  // Every stack is taken to have this much left.
   static constexpr std::uintptr_t smallStack = std::uintptr_t{8} * 1024;
-  // What the functions of rules between two checks of the stack may take, and what they call.
+  // Kept free for the functions between two checks of the stack, and for what they call.
   static constexpr std::uintptr_t stackReserve = std::uintptr_t{16} * 1024;
 
   SyntaxTree& tree_;
-  const std::uint8_t* types_;
+  const std::uint8_t* types_;  // of the tokens, in the tree
   std::uintptr_t stackStart_ = stackPosition();
-  std::uintptr_t stackEnd_ = stackStart_ - smallStack;
+  std::uintptr_t stackEnd_ = stackStart_ - smallStack;  // a guess until isStackKnown_
   bool isStackKnown_ = false;
   std::uint32_t position_ = 0;               // of the next token
   std::uint32_t parent_ = SyntaxTree::none;  // the innermost node that is open
   bool isTrial_ = false;
   bool isTooDeep_ = false;
-  std::vector<Trial> trials_;  // by token; none before the first trial within another
+  std::vector<Trial> trials_;  // by token; empty until a trial is made inside another
 };
 
 }  // namespace vorn

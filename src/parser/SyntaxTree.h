@@ -10,24 +10,24 @@
 
 namespace vorn {
 
-/// A text in tokens, and where in it the rules stand that some analysis asks for. Neither refers to
-/// the other by pointers: a node is a range of tokens, a token a place in the text.
+/// The tokens of a text, and a node for each rule that an analysis asks for. A node is a range of
+/// tokens, a token is a type and a place in the text. Both are referred to by their indices.
 struct SyntaxTree {
   struct Node {
     TreeRule rule{};
     std::uint32_t first = 0;      // token
-    std::uint32_t last = 0;       // token, not before the first
+    std::uint32_t last = 0;       // token, never before `first`
     std::uint32_t end = 0;        // the node behind the last one inside this one
-    std::uint32_t parent = none;  // the node around this one
+    std::uint32_t parent = none;  // the node around this one, or `none`
   };
   static constexpr std::uint32_t none = 0xFFFFFFFF;
 
-  /// The type of what stands behind the last token.
+  /// The token type of the end of the text.
   static constexpr std::uint8_t endOfText = 0;
-  /// How many tokens ahead may be asked for, whatever is left of the text.
+  /// How many tokens ahead may be asked for, even at the end of the text.
   static constexpr std::size_t longestLookahead = 3;
 
-  /// The memory must outlive the tree, and the text too.
+  /// The text and the memory must outlive the tree.
   explicit SyntaxTree(std::string_view utf8,
                       std::pmr::memory_resource* memory = std::pmr::get_default_resource())
       : text(utf8), types(memory), starts(memory), nodes(memory) {}
@@ -60,10 +60,10 @@ struct SyntaxTree {
     return nullptr;
   }
 
-  std::string_view text;                   // UTF-8, which must outlive the tree
-  std::pmr::vector<std::uint8_t> types;    // of the tokens, then the end of the text, several times
+  std::string_view text;                   // UTF-8
+  std::pmr::vector<std::uint8_t> types;    // of the tokens, then endOfText several times
   std::pmr::vector<std::uint32_t> starts;  // of the tokens in bytes, then the end of the last one
-  bool isWhole = false;                    // no character of the text is outside of all tokens
+  bool isWhole = false;                    // the lexer has come to the end of the text
   std::pmr::vector<Node> nodes;            // in the order of the text, each before those inside it
 
  private:

@@ -9,10 +9,12 @@
 
 namespace vorn {
 
+/// Whether a walk tells the listener of tokens.
 enum class Terminals { Skipped, Visited };
 
-/// Tells the listener of entering and leaving each node, in the order of the text and an outer node
-/// before those inside it; between them of each token of the first node, if these are visited.
+/// Tells the listener of entering and leaving each node, in the order of the text, and an outer
+/// node before those inside it. With Terminals::Visited it also tells of each token of the first
+/// node, in its place between them.
 template <Terminals terminals = Terminals::Skipped, typename Listener>
 void walk(const SyntaxTree& tree, Listener& listener) {
   const auto& nodes = tree.nodes;
