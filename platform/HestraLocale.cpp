@@ -17,8 +17,7 @@ namespace HestraLocale {
 
 std::uint16_t GetLangID() noexcept { return PRIMARYLANGID(GetUserDefaultLangID()); }
 
-// Windows tells the Chinese of one country from that of another by the sublanguage, by these very
-// numbers.
+// The sublanguages of Chinese on Windows are the country identifiers, by the same numbers.
 std::uint16_t GetCountryID() noexcept { return SUBLANGID(GetUserDefaultLangID()); }
 
 #else
@@ -32,7 +31,7 @@ struct Identifier {
 
 constexpr std::uint16_t chinese = 4;
 
-// The long names are the C library's aliases.
+// The long names are aliases of the C library.
 constexpr std::array languages{Identifier{"ja", 17}, Identifier{"japanese", 17},
                                Identifier{"ko", 18}, Identifier{"korean", 18},
                                Identifier{"zh", chinese}};
@@ -47,11 +46,11 @@ std::uint16_t find(const Identifiers& identifiers, std::string_view name) {
   return found == identifiers.end() ? std::uint16_t{0} : found->value;
 }
 
-/// A name reads language[_country][.encoding][@variant].
+// The name of a locale is language[_country][.encoding][@variant].
 std::string_view nameOfLocale() {
 #if defined(__GLIBC__)
-  // The C library's conversions follow a locale that belongs to the thread. setlocale does not
-  // tell.
+  // A thread may have a locale of its own, which the C library's conversions follow. setlocale does
+  // not tell it.
   return nl_langinfo(_NL_LOCALE_NAME(LC_CTYPE));
 #else
   return std::setlocale(LC_CTYPE, nullptr);

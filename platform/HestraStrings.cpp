@@ -1,5 +1,5 @@
-// What the host platform's core library brings to the string classes: storage, resources and
-// conversion.
+// The members of the string classes that belong to the host platform's core library: storage,
+// resources and conversion.
 
 #include <algorithm>
 #include <cstring>
@@ -21,9 +21,9 @@ namespace platform = vorn::platform;
 
 namespace {
 
-/// Stands before the characters. The length must be last, directly before them.
+// Stands before the characters. The length must be last, directly before them.
 struct Header {
-  std::uint32_t capacity;
+  std::uint32_t capacity;  // in characters, without the terminating zero
   std::uint32_t byteLength;
 };
 
@@ -47,8 +47,8 @@ std::size_t capacityOf(vorn::WideChar* characters) {
   return characters == nullptr ? 0 : headerOf(characters)->capacity;
 }
 
-/// Grows by half at least, so that a text that is put together from many small ones is not copied
-/// for each of them.
+// Grows by half at least, so that appending many small texts does not copy the whole text each
+// time.
 std::size_t grown(std::size_t capacity, std::size_t length) {
   return std::max(length, std::min(longest, capacity + capacity / 2));
 }
@@ -90,7 +90,8 @@ BSTR String::MakeBSTR() const noexcept {
 
 bool String::LoadStringW(unsigned int id, HINSTANCE module) {
 #if defined(_WIN32)
-  // Without a buffer it gives the address of the resource itself, which has no terminating zero.
+  // With a buffer of size 0 the function gives the address of the resource itself, which has no
+  // terminating zero.
   const vorn::WideChar* resource = nullptr;
   const int length = ::LoadStringW(module, id, reinterpret_cast<vorn::WideChar*>(&resource), 0);
   if (length <= 0) {

@@ -18,7 +18,7 @@ namespace {
 
 using Prefix = std::uint32_t;
 
-// Prefix and terminating zero count too.
+// In characters. The prefix and the terminating zero count towards the 32 bits.
 constexpr std::size_t longest =
     (std::numeric_limits<Prefix>::max() - sizeof(Prefix) - sizeof(WideChar)) / sizeof(WideChar);
 

@@ -5,13 +5,13 @@
 
 #include "vorn/vorn.h"
 
-/// The OLE automation string functions: those of Windows there, counterparts elsewhere. They stand
-/// in a namespace of their own so that they meet no function of that name in the host.
+/// The string functions of OLE automation: on Windows its own, on other systems counterparts. They
+/// have a namespace of their own, so that they do not clash with functions of the host.
 namespace vorn::platform {
 
-/// A new BSTR of `length` characters, copied from `source` or left as they come when that is null,
-/// and a terminating zero. Null when memory runs out or the length in bytes does not fit in 32
-/// bits.
+/// A new BSTR of `length` characters and a terminating zero. The characters are copied from
+/// `source` or, if that is null, left uninitialised. The caller owns the BSTR. Null if memory runs
+/// out or the length in bytes does not fit in 32 bits.
 WideChar* SysAllocStringLen(const WideChar* source, std::size_t length) noexcept;
 
 /// Frees a BSTR, which may be null.

@@ -27,20 +27,20 @@ struct StackBounds {
   }
 };
 
-// A main thread without a limit seems to own all memory down to the next mapping, but the kernel
-// stops it short of that.
+// The main thread's stack without a limit seems to reach down to the next mapping, but the kernel
+// stops it before that.
 constexpr std::uintptr_t largestSize = std::uintptr_t{64} * 1024 * 1024;
 
 #if defined(_WIN32)
 
-// What the host has set apart for handling an overflow, as runtimes of other languages do. Asked
-// for no bytes, the function leaves it as it is.
+// The bytes that the host has reserved for handling a stack overflow, as runtimes of other
+// languages do. Called with 0, the function of Windows only tells them.
 std::uintptr_t setApart() {
   ULONG bytes = 0;
   return SetThreadStackGuarantee(&bytes) != 0 ? bytes : 0;
 }
 
-// Windows switches all of this together with the fibre.
+// Windows keeps these bounds for each fibre.
 StackBounds currentBounds(std::uintptr_t /*position*/) {
   ULONG_PTR end = 0;
   ULONG_PTR top = 0;
@@ -55,9 +55,9 @@ StackBounds boundsFrom(const void* end, std::size_t size) {
   return {address, address + size};
 }
 
-// The C library would read the process's memory map for the main thread, which takes a file. The
-// kernel writes the program's path at the top of that stack, but for one word, and lets the stack
-// grow from there up to a limit that may change at any time.
+// For the main thread the C library would open a file, the memory map of the process. So the stack
+// is measured here: the kernel writes the path of the program at its top, below one last word, and
+// lets it grow up to a limit that may change at any time.
 std::uintptr_t mainStackTop() {
   // NOLINTNEXTLINE(performance-no-int-to-ptr): the kernel hands addresses over as numbers.
   const auto* const path = reinterpret_cast<const char*>(getauxval(AT_EXECFN));
@@ -69,7 +69,7 @@ std::uintptr_t mainStackTop() {
   return (end + sizeof(void*) + page - 1) / page * page;
 }
 
-// Of no size where the limit has been lowered to less than what is used.
+// The stack ends at `position` if the limit has been lowered to less than what is used.
 StackBounds mainBounds(std::uintptr_t position) {
   static const std::uintptr_t top = mainStackTop();
   rlimit limit{};
@@ -93,7 +93,7 @@ StackBounds threadBounds() {
   return bounds;
 }
 
-// A signal handler may run on a stack of its own, which may lie within the thread's.
+// A signal handler may run on a stack of its own, even one inside the thread's stack.
 StackBounds signalStackBounds() {
   stack_t stack{};
   if (sigaltstack(nullptr, &stack) != 0 || (stack.ss_flags & SS_ONSTACK) == 0) {
@@ -109,8 +109,8 @@ StackBounds currentBounds(std::uintptr_t position) {
   if (const StackBounds main = mainBounds(position); main.hold(position)) {
     return main;
   }
-  // Kept, since the question allocates. The initial-exec model, since the general one allocates at
-  // first use and ends the process if that fails.
+  // The bounds are kept, since asking for them allocates. The initial-exec model allocates nothing;
+  // the general model does at first use, and ends the process if that fails.
   [[gnu::tls_model("initial-exec")]] static thread_local StackBounds own;
   if (own.top == 0 && gettid() != getpid()) {
     own = threadBounds();
@@ -123,7 +123,7 @@ StackBounds currentBounds(std::uintptr_t position) {
 }  // namespace
 
 std::uintptr_t stackEnd(std::uintptr_t position) {
-  // What is left to assume of a stack that the platform knows nothing of.
+  // Assumed to be left of a stack that the platform does not know.
   constexpr std::uintptr_t assumedSize = std::uintptr_t{48} * 1024;
   const StackBounds bounds = currentBounds(position);
   if (!bounds.hold(position)) {

@@ -18,8 +18,8 @@ bool isAscii(Unit unit) {
   return unit >= 0 && unit <= last;
 }
 
-// Copies what is ASCII at the start of a text and says how much that was. By blocks, of which the
-// compiler makes a few instructions.
+// Copies the ASCII characters at the start of a text and returns how many they are. It works in
+// blocks, since the compiler makes a few instructions of each.
 template <typename Unit, typename Other>
 std::ptrdiff_t copyAscii(const Unit* first, const Unit* last, Other* output) {
   constexpr std::ptrdiff_t size = 16;
@@ -40,7 +40,7 @@ std::ptrdiff_t copyAscii(const Unit* first, const Unit* last, Other* output) {
   return unit - first;
 }
 
-// Texts are ASCII for the most part; `convert` is for the rest.
+// Copies what is ASCII, which is most of a text, and calls `convert` for the other parts.
 template <typename Unit, typename Other, typename Convert>
 Other* convertText(const Unit* first, const Unit* last, Other* output, const Convert& convert) {
   while (first != last) {
@@ -63,7 +63,7 @@ std::string StringWideCharToUtf8Impl(std::basic_string_view<vorn::WideChar> text
   const char* const end = convertText(
       text.data(), last, utf8.data(),
       [&](const vorn::WideChar* first, const vorn::WideChar* ascii, const char* output) {
-        // One of these units takes three bytes at most, each later one at least one.
+        // Each of these units takes three bytes at most, each later one takes at least one.
         const auto used = static_cast<std::size_t>(output - utf8.data());
         const auto needed = used + static_cast<std::size_t>(3 * (ascii - first) + (last - ascii));
         if (needed > utf8.size()) {

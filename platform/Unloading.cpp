@@ -11,7 +11,7 @@ namespace vorn {
 namespace {
 
 // NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): the process has one end.
-std::atomic<void (*)()> unloadAction{nullptr};
+std::atomic<void (*)()> unloadAction{nullptr};  // null before it is given and after it has run
 std::atomic<bool> processEnds{false};
 // NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
@@ -23,8 +23,8 @@ void unload() {
 
 #if defined(_WIN32)
 
-// Windows runs destructors of static objects in both cases and tells them apart by this function,
-// which its import libraries leave out.
+// Windows destroys static objects both when the library is unloaded and when the process ends. This
+// function tells which, but the import libraries leave it out.
 bool isProcessEnding() {
   using Query = BOOLEAN(NTAPI*)();
   HMODULE const library = GetModuleHandleW(L"ntdll.dll");
@@ -43,8 +43,8 @@ void staticObjectsGo() {
 
 #else
 
-// At the end of the process destructors of static objects run before the functions that are marked
-// as destructors, and after them when the library is unloaded.
+// When the process ends, static objects are destroyed before the functions marked as destructors
+// run. When the library is unloaded, they are destroyed afterwards.
 void staticObjectsGo() { processEnds = true; }
 
 [[gnu::destructor]] void unloadFromProcessThatGoesOn() { unload(); }

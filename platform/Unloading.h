@@ -2,9 +2,8 @@
 
 namespace vorn {
 
-/// Has `action` run when the library is unloaded from a process that goes on. At the end of the
-/// process it does not run: other threads may still be inside the library then. The first call
-/// decides.
+/// Has `action` run when the library is unloaded from a process that goes on. The action does not
+/// run when the process ends: other threads may still be inside the library then.
 void runWhenUnloaded(void (*action)());
 
 }  // namespace vorn

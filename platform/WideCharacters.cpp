@@ -44,7 +44,7 @@ namespace {
 
 using Traits = std::char_traits<WideChar>;
 
-/// Compares code units after each was put through `fold`.
+// Compares the results of `fold` for each code unit.
 template <typename Fold>
 int compare(const WideChar* left, const WideChar* right, Fold fold) {
   while (*left != 0 && fold(*left) == fold(*right)) {
@@ -56,16 +56,15 @@ int compare(const WideChar* left, const WideChar* right, Fold fold) {
   return static_cast<int>(leftUnit > rightUnit) - static_cast<int>(leftUnit < rightUnit);
 }
 
-// The C library converts 32-bit wide characters. This many at a time keep the conversion off the
-// heap.
+// The C library converts 32-bit wide characters. Converting this many at a time needs no heap.
 constexpr std::size_t chunkSize = 128;
 using Chunk = std::array<wchar_t, chunkSize>;
 
 bool isHighSurrogate(WideChar unit) { return (unit & 0xFC00U) == 0xD800U; }
 bool isLowSurrogate(WideChar unit) { return (unit & 0xFC00U) == 0xDC00U; }
 
-/// The code point at `text`, which is moved behind it. An unpaired surrogate stands for itself: no
-/// encoding has one, so the conversion fails there.
+// Returns the code point at `text` and moves `text` behind it. An unpaired surrogate stays as it
+// is: no encoding has it, so the conversion fails there.
 wchar_t nextCodePoint(const WideChar*& text) {
   const WideChar unit = *text++;
   if (!isHighSurrogate(unit) || !isLowSurrogate(*text)) {
@@ -75,8 +74,8 @@ wchar_t nextCodePoint(const WideChar*& text) {
   return static_cast<wchar_t>(0x10000U + ((unit & 0x3FFU) << 10U) + (low & 0x3FFU));
 }
 
-/// Fills the chunk from `text`, which is moved behind what was read, and returns how many code
-/// points that are. The last one is zero when the text ends there.
+// Fills the chunk from `text`, moves `text` behind what was read, and returns how many code points
+// were read. The last one is zero if the text ends there.
 std::size_t nextChunk(const WideChar*& text, Chunk& chunk) {
   std::size_t size = 0;
   do {
@@ -85,7 +84,7 @@ std::size_t nextChunk(const WideChar*& text, Chunk& chunk) {
   return size;
 }
 
-/// Calls `take` with each code point of `text`, or returns false at the first ill-formed place.
+// Calls `take` with each code point of `text`. Returns false at the first ill-formed place.
 template <typename Take>
 bool decode(const char* text, Take take) {
   std::mbstate_t state{};

@@ -38,7 +38,7 @@ void release(BSTR string) {
 
 BString::BString() noexcept : string(nullptr) {}
 
-// A negative length becomes one that is far too large.
+// A negative length becomes a far too large one, for which the allocation fails.
 BString::BString(long n) noexcept
     : string(platform::SysAllocStringLen(nullptr, static_cast<std::size_t>(n))) {}
 
@@ -140,7 +140,7 @@ void BString::Attach(BSTR s) noexcept {
 }
 
 void BString::Attach(BString& other) noexcept {
-  // The other is null before anything is freed, which makes it safe when both are one object.
+  // `other` gives up its string before anything is freed. So attaching an object to itself is safe.
   Attach(other.Detach());
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 using Header = std::uint32_t;
 
-// The platform's primary language identifiers and its country identifiers of Chinese.
+// Results of HestraLocale: languages, and countries of Chinese.
 constexpr std::uint16_t japanese = 17;
 constexpr std::uint16_t korean = 18;
 constexpr std::uint16_t chinese = 4;
@@ -38,7 +38,7 @@ bool lengthDoublesInEuc() {
   return country == hongKong || country == taiwan;
 }
 
-// Saturates, so that a sum that does not fit is refused as too long and not taken for a short one.
+// Saturates: a sum that does not fit is then refused as too long, not taken for a small one.
 unsigned long sum(unsigned long a, unsigned long b) {
   constexpr auto most = std::numeric_limits<unsigned long>::max();
   return b > most - a ? most : a + b;
@@ -95,7 +95,7 @@ const String& String::ConcatImpl(const vorn::WideChar* s, unsigned long n) {
     return *this;
   }
   const std::uint32_t old = GetLength();
-  // The room may be made elsewhere, and a text that lies in here would run into its own copy.
+  // `s` may point into this string, whose characters are about to move.
   vorn::WideString copy;
   if (std::less_equal<>()(characters, s) && std::less_equal<>()(s, characters + old)) {
     copy = s;

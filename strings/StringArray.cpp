@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 int StringArray::GetSize() const noexcept {
-  // Here and not in the header, because the fields are private.
+  // Checked in a member, since the fields are private.
   static_assert(offsetof(StringArray, elements) == 0 &&
                 offsetof(StringArray, count) == sizeof(String**) && sizeof count == 4);
   return count;
@@ -12,7 +12,7 @@ int StringArray::GetSize() const noexcept {
 
 void StringArray::Sort(Comparison compare) {
   if (count > 0) {
-    // The elements are pointers indeed. NOLINTNEXTLINE(bugprone-sizeof-expression)
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): the elements are pointers.
     std::qsort(elements, static_cast<std::size_t>(count), sizeof(String*), compare);
   }
 }
