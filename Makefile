@@ -1,4 +1,4 @@
-# The front door. `make help` lists what can be done.
+# The entry to every task. `make help` lists the targets.
 .DEFAULT_GOAL := help
 .PHONY: $(shell sed -n 's/^\([a-z0-9-]*\):.*\#\# .*/\1/p' Makefile)
 

@@ -1,5 +1,5 @@
-# The ANTLR C++ runtime. By default it is built from source as a static library that goes into ours:
-# hidden there, it does not meet an ANTLR runtime of the host.
+# The ANTLR C++ runtime. By default it is built from source as a static library and linked, hidden, into
+# ours. So it cannot clash with an ANTLR runtime of the host.
 set(VORN_ANTLR bundled CACHE STRING "bundled: in the library, from VORN_ANTLR_SOURCE; system: the installed one")
 set_property(CACHE VORN_ANTLR PROPERTY STRINGS bundled system)
 set(VORN_ANTLR_VERSION 4.10 CACHE STRING "Release of the ANTLR runtime, from 4.10 to 4.13.2")
@@ -8,8 +8,8 @@ set(VORN_ANTLR_SOURCE "${PROJECT_SOURCE_DIR}/build/antlr4-runtime-4.10" CACHE PA
 
 find_package(Threads REQUIRED)
 
-# vorn_find_antlr_sources(result): the folder with antlr4-runtime.h under VORN_ANTLR_SOURCE, which may be
-# an archive.
+# vorn_find_antlr_sources(result): finds the folder with antlr4-runtime.h in VORN_ANTLR_SOURCE, which is a
+# folder or an archive.
 function(vorn_find_antlr_sources result)
   set(folder "${VORN_ANTLR_SOURCE}")
   if(EXISTS "${folder}" AND NOT IS_DIRECTORY "${folder}")
@@ -28,8 +28,8 @@ function(vorn_find_antlr_sources result)
   set(${result} "${sources}" PARENT_SCOPE)
 endfunction()
 
-# vorn_check_antlr_version(folder): fails if the headers are not those of VORN_ANTLR_VERSION. What the
-# tool generates fits every runtime of the same two first numbers.
+# vorn_check_antlr_version(folder): fails if the headers are not those of VORN_ANTLR_VERSION. Only major
+# and minor number are compared, since generated sources fit all runtimes that share these.
 function(vorn_check_antlr_version folder)
   foreach(part IN ITEMS MAJOR MINOR)
     file(STRINGS "${folder}/Version.h" line REGEX "^#define ANTLRCPP_VERSION_${part} ")
@@ -66,8 +66,8 @@ target_compile_definitions(vorn_antlr_runtime PUBLIC ANTLR4CPP_STATIC)
 target_compile_options(vorn_antlr_runtime PRIVATE -w)
 set_target_properties(vorn_antlr_runtime PROPERTIES COMPILE_WARNING_AS_ERROR OFF)
 target_link_libraries(vorn_antlr_runtime PUBLIC Threads::Threads)
-# Compiled twenty files at a time, the runtime takes a quarter of the time. Some of its files name a
-# local function alike, so these stay apart.
+# Compiling twenty files at a time takes a quarter of the time. Some files have local functions of the
+# same name, so these files are compiled one by one.
 set_target_properties(vorn_antlr_runtime PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 20)
 foreach(source IN LISTS antlr_sources)
   file(STRINGS "${source}" shared_name REGEX "cachedHashCodeEqual" LIMIT_COUNT 1)

@@ -1,5 +1,5 @@
-# The DLLs of mingw-w64 that everything built with it needs. They are put beside VornLib.dll, where
-# Windows looks for them.
+# Copies the DLLs that every program built with mingw-w64 needs. They go beside VornLib.dll, where Windows
+# looks for them.
 if(NOT MINGW)
   return()
 endif()
@@ -8,7 +8,7 @@ set(VORN_COMPILER_RUNTIME)
 foreach(name IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
   execute_process(COMMAND "${CMAKE_CXX_COMPILER}" "-print-file-name=${name}"
     OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-  # A name that comes back as it is was not found.
+  # The compiler returns the bare name of a file that it does not find.
   if(NOT IS_ABSOLUTE "${file}")
     message(FATAL_ERROR "The compiler does not know where its ${name} is.")
   endif()

@@ -1,5 +1,5 @@
-# What an installation holds: libraries, headers, CMake package, pkg-config files, notices, and
-# vorn-inspect with its man page and completion. All of it can be moved to another place as a whole.
+# Installs libraries, headers, the CMake package, pkg-config files, the notices, and vorn-inspect with its
+# man page and completion. The installation can be moved as a whole.
 include(CMakePackageConfigHelpers)
 
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/VornLib")
@@ -32,7 +32,7 @@ install(FILES
   "${CMAKE_CURRENT_BINARY_DIR}/VornLibConfigVersion.cmake"
   DESTINATION "${package_folder}")
 
-# Where the prefix is, seen from the file itself.
+# The path from the folder of a pkg-config file to the prefix.
 file(RELATIVE_PATH prefix_from_pkg_config
   "/prefix/${pkg_config_folder}" "/prefix")
 if(VORN_SHARED)

@@ -1,4 +1,4 @@
-# The version stands in the public header only.
+# Reads the version from the public header, its only place.
 set(VORN_VERSION "")
 foreach(part IN ITEMS MAJOR MINOR PATCH)
   file(STRINGS "${CMAKE_CURRENT_LIST_DIR}/../include/vorn/vorn.h" line
@@ -7,6 +7,6 @@ foreach(part IN ITEMS MAJOR MINOR PATCH)
   list(APPEND VORN_VERSION ${number})
 endforeach()
 list(JOIN VORN_VERSION "." VORN_VERSION)
-# Who changes it there need not remember to configure anew.
+# A change of the header configures the build anew.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
   "${CMAKE_CURRENT_LIST_DIR}/../include/vorn/vorn.h")

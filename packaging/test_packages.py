@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """The packages under build/packages hold what a user needs, built with all hardening.
 
-They are installed in a new Debian system, with the packages that they depend on and a compiler, and used
-inside of it. Making that system takes root or sudo.
+The tests install them, with a compiler, in a new Debian system and use them there. Making that system
+needs root or sudo.
 """
 
 import os
@@ -58,7 +58,7 @@ class Packages(unittest.TestCase):
         )  # fmt: skip
 
     def inside(self, commands: str) -> str:
-        # What this machine's environment says, of a compiler cache for example, is not true there.
+        # This machine's environment does not fit that system: it may name a compiler cache, for example.
         environment = ["env", "-i", "PATH=/usr/sbin:/usr/bin:/sbin:/bin", "LC_ALL=C.UTF-8"]
         return run(*AS_ROOT, *environment, "chroot", self.root, "bash", "-ec", f"cd /host; {commands}")
 
@@ -82,7 +82,7 @@ class Packages(unittest.TestCase):
 
     def test_have_vorn_inspect_with_its_manual(self) -> None:
         self.assertIn("Node", self.inside("vorn-inspect columns 'MATCH (n) RETURN n'"))
-        # A system as small as this one has no manuals: dpkg leaves them out.
+        # So small a system has no manuals: dpkg leaves them out.
         (package,) = [path for path in PACKAGES if path.name.startswith("vorn-inspect")]
         run("dpkg-deb", "-x", package, self.folder / "unpacked")
         manual = self.folder / "unpacked/usr/share/man/man1/vorn-inspect.1.gz"
@@ -116,7 +116,7 @@ class Packages(unittest.TestCase):
         run(*common, self.root / "usr/bin/vorn-inspect")
         for name in ["libVornLib.so.1.*", "libvorn_c.so.1.*"]:
             (library,) = self.root.glob(f"usr/lib/*/{name}")
-            # All that fortifying knows of in there copies to buffers whose size no compiler can tell.
+            # Fortifying finds nothing there: the copies go to buffers whose size no compiler knows.
             run(*common, "--nopie", "--nofortify", library)
 
 

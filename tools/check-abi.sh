@@ -1,8 +1,8 @@
 #!/bin/sh
-# Compares what the libraries export, and the layout of their public types, with what was announced.
+# Compares the exports of the libraries and the layout of their public types with the announced ABI.
 #
 #   tools/check-abi.sh BUILD_FOLDER            fail if they differ from abi/*ARCHITECTURE.abi
-#   tools/check-abi.sh BUILD_FOLDER --write    announce them
+#   tools/check-abi.sh BUILD_FOLDER --write    write those files
 set -eu
 
 fail() {
@@ -21,7 +21,7 @@ now=$(mktemp)
 trap 'rm -f "$now"' EXIT
 trap 'exit 1' HUP INT TERM
 
-# LIBRARY HEADERS ANNOUNCED WHAT_ELSE_IS_READ WHAT_ELSE_IS_COMPARED
+# check LIBRARY HEADERS ANNOUNCED ABIDW_OPTION ABIDIFF_OPTION
 check() {
     library=$build/abi/$1
     announced=$root/abi/$3
@@ -35,10 +35,10 @@ check() {
         [ -f "$announced" ] || fail "$announced is missing; write it with --write."
         # shellcheck disable=SC2086 # one option or none
         abidiff $5 --no-show-locs "$announced" "$now" ||
-            fail "this is another ABI than announced. Raise VORN_VERSION_MAJOR if hosts must be rebuilt, then run make announce-abi."
+            fail "the ABI differs from the announced one. Raise VORN_VERSION_MAJOR if hosts must be rebuilt, then run make announce-abi."
     fi
 }
 
 check libvorn_abi.so include "$(uname -m).abi" --load-all-types --non-reachable-types
-# The numbers of its enumerators, which no function names by their types, are tested.
+# No function of the C interface mentions the types of its enumerators, so a test checks their numbers.
 check libvorn_c_abi.so bindings/c/include "vorn_c-$(uname -m).abi" "" ""

@@ -1,7 +1,8 @@
 #!/bin/sh
-# Builds the library against Debian's package of the ANTLR 4.10 runtime and runs its tests. Compares the
-# recognisers that other releases of the ANTLR tool generate with the committed ones and lets the compiler
-# read them, with the headers of 4.10 and what newer ones add: those runtimes Debian has not.
+# Builds the library with Debian's package of the ANTLR 4.10 runtime and runs its tests. Compares the
+# committed recognisers with those that other releases of the ANTLR tool generate, and compiles the
+# generated ones. Debian has no newer runtime, so the compiler gets the headers of 4.10 and a header with
+# what newer releases add.
 #
 #   tools/check-other-runtimes.sh
 set -eu
@@ -28,7 +29,7 @@ for version in 4.10.1 4.11.1 4.12.0 4.13.2; do
 done
 
 tools/fetch-antlr-package.sh
-# How deep a text fits a stack is promised for the runtime inside.
+# The nesting tests are left out: their limits hold for the bundled runtime only.
 cmake --preset release -B $build -DVORN_ANTLR=system \
     -DCMAKE_PREFIX_PATH="$PWD/build/antlr4-package-4.10/usr" >/dev/null
 cmake --build $build --target VornLib vorn-inspect grammar_test columns_test filters_test

@@ -1,9 +1,9 @@
 #!/bin/sh
-# Puts the ANTLR tool into build/antlr-VERSION-complete.jar, by way of Maven.
+# Fetches the ANTLR tool with Maven and puts it into build/antlr-VERSION-complete.jar.
 #
-#   tools/fetch-antlr-tool.sh [VERSION]    release 4.10 if no other is named
+#   tools/fetch-antlr-tool.sh [VERSION]    release 4.10 by default
 #
-# The file is pinned by its hash; nothing is fetched when it is there.
+# The file is pinned by its hash. Nothing is fetched if the file is there.
 set -eu
 
 version=${1-4.10}

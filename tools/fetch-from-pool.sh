@@ -1,11 +1,11 @@
 #!/bin/sh
-# Puts sources, or a package, that Debian keeps in the pool of its archive into a folder under build/.
+# Fetches sources or a package from the pool of Debian's archive and unpacks them into a folder under
+# build/.
 #
 #   tools/fetch-from-pool.sh POOL_PATH SHA256 FOLDER [PART]
 #
-# With PART, only that folder of the archive.
-# They come from the mirror this machine already uses. The file is pinned by its hash; nothing is
-# fetched when the folder is there.
+# With PART, only that folder is unpacked. The file comes from the mirror that this machine already uses
+# and is pinned by its hash. Nothing is fetched if the folder is there.
 set -eu
 
 fail() {
@@ -48,7 +48,7 @@ case "$archive" in
     *) tar -xf "$work/$archive" -C "$work/unpacked" 2>"$work/log" ;;
 esac ||
     fail "cannot unpack $archive: $(head -n 1 "$work/log")"
-# Most archives hold one folder with everything in it, some hold everything at their top.
+# Most archives hold a single folder with everything in it; the others have no such folder.
 contents=$work/unpacked
 [ "$(ls "$contents" | wc -l)" -ne 1 ] || contents=$contents/$(ls "$contents")
 mv "$contents${4:+/$4}" "$target"

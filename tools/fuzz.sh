@@ -1,9 +1,9 @@
 #!/bin/sh
-# Runs fuzzers for a number of seconds each and stops at the first one that finds something.
+# Runs each fuzzer for a number of seconds and stops at the first one that finds something.
 #
 #   tools/fuzz.sh BUILD_FOLDER SECONDS [TARGET...]
 #
-# What a fuzzer learns stays in BUILD_FOLDER/corpus; what it finds goes to BUILD_FOLDER/findings.
+# The corpora stay in BUILD_FOLDER/corpus. Inputs that fail go to BUILD_FOLDER/findings.
 set -eu
 
 fail() {
@@ -11,7 +11,7 @@ fail() {
     exit 1
 }
 
-[ $# -ge 2 ] || fail "say the build folder and the seconds for each target."
+[ $# -ge 2 ] || fail "give the build folder and the seconds for each target."
 build=$1
 seconds=$2
 shift 2
@@ -19,7 +19,7 @@ shift 2
 past=$(cd "$(dirname "$0")/.." && pwd)/fuzz/findings
 log=$build/fuzz.log
 
-# Without long stack traces at each allocation a fuzzer gets through half as many inputs again.
+# With short stack traces at allocations a fuzzer runs half as many inputs again.
 export ASAN_OPTIONS="malloc_context_size=2:quarantine_size_mb=64${ASAN_OPTIONS:+:$ASAN_OPTIONS}"
 mkdir -p "$build/findings"
 

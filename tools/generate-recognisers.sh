@@ -2,10 +2,10 @@
 # Generates lexer, parser and listeners from grammar/Cypher.g4 with the ANTLR tool, and compiles the
 # grammar to the library's own lexer and parser.
 #
-#   tools/generate-recognisers.sh                     rewrite grammar/generated/, by release 4.10
-#   tools/generate-recognisers.sh --check             fail if grammar/generated/ is not what that writes
-#   tools/generate-recognisers.sh --into FOLDER JAR   write what the tool writes into another folder, by
-#                                                     another tool
+#   tools/generate-recognisers.sh                     rewrite grammar/generated/ with the tool of 4.10
+#   tools/generate-recognisers.sh --check             fail if that would change grammar/generated/
+#   tools/generate-recognisers.sh --into FOLDER JAR   write only the sources of the ANTLR tool in JAR,
+#                                                     into another folder
 set -eu
 
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -20,7 +20,7 @@ fail() {
 case "${1-} $#" in
     " 0" | "--check 1") ;;
     "--into 3") generated=$(realpath -m "$2") jar=$(realpath -m "$3") ;;
-    *) fail "the arguments are none, or --check, or --into FOLDER JAR." ;;
+    *) fail "give no argument, --check, or --into FOLDER JAR." ;;
 esac
 command -v java >/dev/null || fail "java is missing; tools/install-packages.sh grammar installs it."
 [ -f "$jar" ] || fail "$jar is missing; tools/fetch-antlr-tool.sh fetches it."
@@ -34,7 +34,7 @@ trap 'exit 1' HUP INT TERM
 cd "$root/grammar"
 java -jar "$jar" -Dlanguage=Cpp -package vorn -listener -no-visitor -encoding UTF-8 -Werror \
     -Xexact-output-dir -o "$work" Cypher.g4 || fail "the tool rejected grammar/Cypher.g4."
-# Only the C++ sources are kept: the other files serve the tool's own IDE plug-ins.
+# Only the C++ sources are kept: the other files are for IDE plug-ins.
 rm "$work"/*.interp "$work"/*.tokens
 
 if [ "${1-}" != --into ]; then

@@ -1,9 +1,9 @@
 #!/bin/sh
-# Installs the Debian packages that a task needs and that are missing.
+# Installs the missing Debian packages that a task needs.
 #
 #   tools/install-packages.sh TASK
 #
-# Does nothing, and needs neither network nor root, when all of them are there.
+# If none is missing it does nothing, and needs neither network nor root.
 set -eu
 
 fail() {
@@ -28,7 +28,7 @@ case "${1-}" in
     windows) packages="g++-mingw-w64-x86-64-posix wine64 cmake ninja-build python3 xz-utils
                        googletest libutfcpp-dev libcli11-dev nlohmann-json3-dev clang-14 lld llvm" ;;
     fuzz) packages="clang-14 libclang-rt-14-dev" ;;
-    *) fail "say for which task: one of those in this script." ;;
+    *) fail "name a task, one of those in this script." ;;
 esac
 
 command -v dpkg-query >/dev/null ||
@@ -51,14 +51,14 @@ log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 trap 'exit 1' HUP INT TERM
 
-# What apt-get says goes into the log: its first error, and the first file that it could not fetch.
+# Runs apt-get. If it fails, the message has its first error and the first file that it could not fetch.
 run_apt() {
     $as_root env DEBIAN_FRONTEND=noninteractive apt-get -q "$@" >>"$log" 2>&1 </dev/null ||
         fail "apt-get $1 failed for$missing: $(grep -m 1 '^E:' "$log") $(grep -m 1 '^W: Failed' "$log")"
 }
 
 echo "Installing$missing"
-# A repository that cannot be reached matters only if a package is missing because of it.
+# A repository that cannot be reached is no failure; a package that cannot be installed is one.
 run_apt update
 # shellcheck disable=SC2086 # one argument for each package
 run_apt install --yes --no-install-recommends $missing

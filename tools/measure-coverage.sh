@@ -1,7 +1,7 @@
 #!/bin/sh
-# Runs the tests of the preset `coverage` and writes build/coverage/report/index.html: the lines and the
-# branches of our own code that they ran. Fails below 95 % of the lines, or if CONTRIBUTING.md does not tell
-# why no test runs some line of a file.
+# Runs the tests of the preset `coverage` and writes the report build/coverage/report/index.html: which
+# lines and branches of our own code they ran. Fails below 95 % of the lines, or if a file has lines that
+# no test ran and CONTRIBUTING.md does not name it.
 set -eu
 
 cd "$(dirname "$0")/.."
@@ -16,7 +16,7 @@ fail() {
 find $build -name '*.gcda' -delete
 ctest --preset coverage
 mkdir -p $report
-# Branches that only an exception takes are not counted: nearly every call has one.
+# Branches for exceptions are not counted: nearly every call has one.
 gcovr --root . --filter '(src|strings|platform|include/vorn|inspect)/' \
     --exclude-throw-branches --exclude-unreachable-branches \
     --html-details $report/index.html --html-title VornLib --txt $report/lines.txt --csv $report/lines.csv \
@@ -25,5 +25,5 @@ gcovr --root . --filter '(src|strings|platform|include/vorn|inspect)/' \
 
 for file in $(awk -F, 'NR > 1 && $3 < $2 { print $1 }' $report/lines.csv); do
     grep -qF "| \`$(basename "$file")\`" CONTRIBUTING.md ||
-        fail "tell in CONTRIBUTING.md why no test runs those lines of $file that $report/lines.txt has, or test them."
+        fail "no test runs some lines of $file; see $report/lines.txt. Test them, or say in CONTRIBUTING.md why not."
 done

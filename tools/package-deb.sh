@@ -1,5 +1,5 @@
 #!/bin/sh
-# Builds the Debian packages into build/packages/, and fails unless lintian is content with them.
+# Builds the Debian packages into build/packages/ and checks them with lintian.
 #
 #   tools/package-deb.sh
 set -eu
@@ -34,5 +34,5 @@ DEB_BUILD_OPTIONS="${DEB_BUILD_OPTIONS:-parallel=$(nproc)}" \
     dpkg-buildpackage -b -us -uc >"$work/log" 2>&1 || fail "the build failed; see $work/log."
 
 cd "$work"
-lintian --fail-on error,warning ./*.changes || fail "lintian is not content."
+lintian --fail-on error,warning ./*.changes || fail "lintian has found errors or warnings."
 mv ./*.deb "$packages"

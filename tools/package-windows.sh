@@ -1,9 +1,7 @@
 #!/bin/sh
-# Makes of the Windows build a zip that can be unpacked anywhere.
+# Packs the Windows build into a zip, which can be unpacked anywhere, and prints its path.
 #
 #   tools/package-windows.sh
-#
-# Prints the path of the zip.
 set -eu
 
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -24,14 +22,14 @@ trap 'exit 1' HUP INT TERM
 
 package=$work/$name
 cmake --install "$build" --prefix "$package" >/dev/null
-# The compiler's DLLs come with all their symbols, which make most of their size.
+# The compiler's DLLs come with symbols, which are most of their size.
 x86_64-w64-mingw32-strip "$package"/bin/*.dll
 cp "$root/packaging/windows/README.md" "$package"
 
 licenses=$package/licenses
 mkdir "$licenses"
 cp "$root/THIRD-PARTY.md" "$licenses"
-# The compiler's DLLs, and the licence that theirs makes an exception from.
+# The licences of the compiler's DLLs, and GPL 3, from which they make an exception.
 cp /usr/share/common-licenses/GPL-3 "$licenses/GPL-3.txt"
 for debian_package in gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev; do
     copyright=/usr/share/doc/$debian_package/copyright

@@ -1,11 +1,11 @@
 #!/bin/sh
-# Runs clang-tidy over sources, as many at a time as there are processors.
+# Runs clang-tidy on sources, as many at a time as there are processors.
 #
 #   tools/run-clang-tidy.sh "BUILD_FOLDER..." SOURCE...
 #
-# The first build folder that compiles a source tells how. Left out is what none of them can: sources for
-# Windows, which take the headers of another compiler, and a host that a test builds by itself. What an
-# #ifdef keeps for Windows is not seen either.
+# The first build folder that compiles a source gives the options. Two kinds of sources are left out:
+# those for Windows, which need the headers of another compiler, and a host that a test builds by itself.
+# Code that an #ifdef keeps for Windows is not checked either.
 set -eu
 
 fail() {
@@ -17,7 +17,7 @@ command -v clang-tidy >/dev/null || fail "clang-tidy is missing; tools/install-p
 builds=$1
 shift
 
-# build_of SOURCE: the build folder that compiles it.
+# build_of SOURCE: prints the build folder that compiles it.
 build_of() {
     for build in $builds; do
         ! grep -qF "\"file\": \"$PWD/$1\"" "$build/compile_commands.json" || { echo "$build"; return; }
@@ -36,5 +36,5 @@ for source in "$@"; do
     build=$(build_of "$source")
     printf '%s\0%s\0' "$build" "$source" >>"$work"
 done
-# What goes to the standard error only counts the warnings in others' headers.
+# Standard error is dropped: it only counts the suppressed warnings.
 xargs -0 -r -n 2 -P "$(nproc)" sh -c 'clang-tidy --quiet -p "$0" "$1" 2>/dev/null' <"$work"

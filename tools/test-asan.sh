@@ -1,21 +1,20 @@
 #!/bin/sh
-# Runs the tests under AddressSanitizer, UndefinedBehaviorSanitizer and LeakSanitizer, all but those
-# that cannot say anything there.
+# Runs the tests under AddressSanitizer, UndefinedBehaviorSanitizer and LeakSanitizer, except for those
+# that mean nothing there.
 set -eu
 
-# How deep a text fits a stack: instrumented functions, and the allocator that records who called it,
-# take several times the stack that is reserved for them. Nor are stacks followed that a program
-# switches by itself.
+# Tests of nesting and of stacks: instrumented functions and the sanitizer's allocator take several times
+# the stack that is reserved for them. Nor do sanitizers follow stacks that a program switches by itself.
 stacks='nesting_test|unusual_stacks_test'
-# Compilers and interpreters that are not instrumented start or load what is.
+# Programs that are not instrumented start or load instrumented ones there.
 hosts='documents|exported_symbols'
-# Takes a quarter of an hour instrumented, and counts what stays by itself.
+# Takes a quarter of an hour when instrumented, and counts leaks without a sanitizer.
 long='AThousandTimes'
-# The runtime loses an object in some of the places where an allocation fails. These tests count what
-# is lost, and bound it.
+# The runtime leaks an object in some places when an allocation fails. These tests count the leaks and
+# bound them, so they run without LeakSanitizer.
 losses='InALaterCallLeaveTheNextOneRight|LeaveTheTablesSound'
-# After the static objects are gone, the runtime's default walker is called by its address, which its
-# class still answers, but not to the sanitizer's liking.
+# A call at the end of the process uses the runtime's default walker after its destruction. That works,
+# since the walker has no state, but the sanitizer reports it.
 end='ACallThatTheHostMakesThen'
 
 ctest --preset asan --label-exclude "^($stacks)\$" --exclude-regex "^($hosts)\$|$losses|$long|$end"

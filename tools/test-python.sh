@@ -1,10 +1,10 @@
 #!/bin/sh
-# Tests the wheel that tools/build-wheel.sh has built, in a virtual environment that holds nothing of the
-# source tree.
+# Tests the wheel that tools/build-wheel.sh has built, in a virtual environment without the source tree.
 #
 #   tools/test-python.sh [PYTHON]
 #
-# It takes the Python that the wheel was built with. The answers are compared with those of vorn-inspect.
+# PYTHON must be the one that the wheel was built with. The tests compare answers with those of
+# vorn-inspect.
 set -eu
 cd "$(dirname "$0")/.."
 

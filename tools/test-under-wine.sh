@@ -18,13 +18,13 @@ finish() {
 trap finish EXIT
 trap 'exit 1' HUP INT TERM
 
-# As long as one program runs, Wine's services stay; starting them for every program takes seconds.
-# This one waits for its input to end.
+# Wine's services stay as long as one program runs, and starting them takes seconds. So this program runs
+# until its input ends, after the last test.
 mkfifo "$work/input"
 "$run" cmd.exe <"$work/input" >"$work/log" 2>&1 &
 exec 3>"$work/input"
-# The services keep the output of the program that started them open. Were that a test, CTest would wait
-# for its end for ever; so here they are up when the first test begins.
+# The services keep the output of the program open that started them. If that were a test, CTest would
+# wait for the end of the output for ever. So the services must be up before the first test.
 "$run" cmd.exe /c exit </dev/null >"$work/started" 2>&1
 
 ctest --preset windows "$@"

@@ -1,5 +1,5 @@
-# vorn_host_headers(target name): an imported target with the headers of /usr/include/NAME, and none of
-# the others there, which belong to this system.
+# vorn_host_headers(target name): adds an imported target with the headers in /usr/include/NAME only. The
+# other headers of /usr/include are for this system, not for the one that is built for.
 function(vorn_host_headers target name)
   if(NOT EXISTS "/usr/include/${name}")
     message(FATAL_ERROR "/usr/include/${name} is missing; its package is in tools/install-packages.sh.")

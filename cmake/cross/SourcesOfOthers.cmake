@@ -1,5 +1,5 @@
-# vorn_sources_of_others(folder name): adds the CMake project in a folder, with its own idea of warnings
-# and nothing of it built or installed that we do not use.
+# vorn_sources_of_others(folder name): adds the CMake project in a folder. Its warnings are no errors, and
+# nothing of it is built or installed that we do not use.
 function(vorn_sources_of_others folder name)
   if(NOT EXISTS "${folder}/CMakeLists.txt")
     message(FATAL_ERROR "The sources of ${name} are not in ${folder}. tools/fetch-cross-sources.sh puts them there.")

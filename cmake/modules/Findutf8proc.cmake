@@ -1,4 +1,4 @@
-# utf8proc as Debian packages it, without CMake files of its own.
+# Finds utf8proc, whose Debian package has no CMake files.
 find_path(UTF8PROC_INCLUDE_DIR utf8proc.h)
 find_library(UTF8PROC_LIBRARY utf8proc)
 
