@@ -1,16 +1,16 @@
 // The openCypher language that VornLib accepts.
 //
-// The order of the rules is part of the grammar: a parser rule's place is its index, the quoted
-// literals of the parser rules become token types 1 to 45 in the order in which they first occur,
-// and of two lexer rules that match the same text the first one wins. White space and comments
-// reach the parser as the token SP; each production says where they may (SP?) or must (SP) stand.
-// A production that looks irregular beside its neighbours is so on purpose.
+// The order of the rules is part of the grammar. The place of a parser rule is its index. The quoted
+// literals of the parser rules become token types 1 to 45 in the order of their first occurrence. Of
+// two lexer rules that match the same text the first one wins. White space and comments reach the
+// parser as the token SP; each production says where they may (SP?) or must (SP) stand. A production
+// that looks irregular beside its neighbours is so on purpose.
 //
 // `make grammar` writes the sources under generated/ anew.
 
 grammar Cypher;
 
-// The token NULL becomes an enumerator, which the C library's macro of that name would break.
+// The token NULL becomes an enumerator, so the C library's macro of that name must not be defined.
 @lexer::postinclude {
 #undef NULL
 }
@@ -19,11 +19,12 @@ grammar Cypher;
 #undef NULL
 }
 
-// The generated code builds its tables inside std::call_once, which on some systems waits for ever once
-// an exception has left it. So they are built before, and the flag is raised when they are there.
-// Nor does it ever free them. At the end of the process that is right, since other threads may still
-// use them; a host that unloads the library gets its memory back. Newer releases of the tool hold the
-// tables by a std::unique_ptr, and have a flag and a call_once() of their own, found by its argument.
+// The generated code builds its static data inside std::call_once, which on some systems waits for ever
+// after an exception has left it. So these functions build the data before and then raise the flag.
+// The generated code never frees the data. At the end of the process that is right, since other threads
+// may still use it. These functions free it when a host unloads the library. Newer releases of the tool
+// hold the data by a std::unique_ptr. They also have a flag and a call_once() of their own, which the
+// compiler finds by the type of the flag.
 @lexer::definitions {
   namespace vorn {
   void buildLexerTables() {
@@ -64,7 +65,7 @@ oC_Query : oC_RegularQuery | oC_StandaloneCall ;
 
 oC_RegularQuery : oC_SingleQuery ( SP? oC_Union )* ;
 
-// ALL must be set off by white space, so its alternative stands first.
+// ALL needs white space before it.
 oC_Union
     : UNION SP ALL SP? oC_SingleQuery
     | UNION SP? oC_SingleQuery
@@ -188,7 +189,7 @@ oC_NodePattern
 
 oC_PatternElementChain : oC_RelationshipPattern SP? oC_NodePattern ;
 
-// In this order: both heads, left head, right head, no head.
+// The order is: both heads, left head, right head, no head.
 oC_RelationshipPattern
     : oC_LeftArrowHead SP? oC_Dash SP? oC_RelationshipDetail? SP? oC_Dash SP? oC_RightArrowHead
     | oC_LeftArrowHead SP? oC_Dash SP? oC_RelationshipDetail? SP? oC_Dash
@@ -218,7 +219,7 @@ oC_RelTypeName : oC_SchemaName ;
 
 oC_PropertyExpression : oC_Atom ( SP? oC_PropertyLookup )+ ;
 
-// Does not end in EOF: text after a complete expression is left alone.
+// There is no EOF at the end: text after a complete expression is left alone.
 oC_Expression : oC_OrExpression ;
 
 // OR, XOR and AND demand white space on both sides, even next to parentheses.
@@ -287,7 +288,7 @@ oC_PropertyOrLabelsExpression : oC_Atom ( SP? oC_PropertyLookup )* ( SP? oC_Node
 
 oC_PropertyLookup : '.' SP? oC_PropertyKeyName ;
 
-// Where a text fits several alternatives the earlier one is taken.
+// If several alternatives fit a text, the first of them is taken.
 oC_Atom
     : oC_Literal
     | oC_Parameter
@@ -402,7 +403,7 @@ oC_SymbolicName
     | EscapedSymbolicName
     ;
 
-// The typographic heads and dashes have a meaning in relationship patterns only.
+// The typographic heads and dashes mean something in relationship patterns only.
 oC_LeftArrowHead : '<' | '\u27E8' | '\u3008' | '\uFE64' | '\uFF1C' ;
 
 oC_RightArrowHead : '>' | '\u27E9' | '\u3009' | '\uFE65' | '\uFF1E' ;

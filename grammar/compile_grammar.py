@@ -1,9 +1,9 @@
 #!/usr/bin/python3
-"""Compiles Cypher.g4 to C++: the tables of the lexer, one function for each parser rule.
+"""Compiles Cypher.g4 to C++: tables for the lexer and a function for each parser rule.
 
     grammar/compile_grammar.py FOLDER   write the sources into the folder
 
-Stops where alternatives cannot be told apart by three tokens, unless the place is named in TRIALS.
+Fails if three tokens do not decide between alternatives at a place that TRIALS does not name.
 """
 
 import sys
@@ -17,25 +17,26 @@ from rule_forms import names_in, rules_as_written, rules_to_compile
 
 STARTS = ("oC_Cypher", "oC_Expression")
 
-# Decisions where the alternatives are tried in their order. The first that matches here is taken, so
-# each needs the reason why the text behind it can never ask for a later one.
+# Decisions whose alternatives are tried in order. The first one that matches is taken. So each decision
+# needs a reason why the text behind the match never needs a later alternative.
 TRIALS = {
-    # A regular query goes on behind its CALL with clauses and takes them all. Behind a standalone call
-    # stands the end of the text, so none of these clauses could be read.
+    # A regular query takes all clauses behind its CALL. Behind a standalone call the text must end, so a
+    # standalone call could not take them.
     ("oC_Query", 0),
     # Only a call with arguments goes on with a parenthesis.
     ("oC_StandaloneCall", 0),
-    # What may stand behind an operand may stand behind an atom. An earlier alternative takes as much of
-    # the text as a later one, or more operands of it: behind `[`, `(` and a quantifier's name each
-    # alternative ends with the same closing bracket, and a pattern takes `(a)` with operators and
+    # Every text that may stand behind an operand may stand behind an atom. An earlier alternative takes
+    # as much of the text as a later one, or more operands: behind `[`, `(` and a quantifier's name each
+    # alternative ends with the same closing bracket, and a pattern takes `(a)` and the operators and
     # operands behind it. Behind a name with dots only a function goes on with a parenthesis.
     ("oC_Atom", 0),
-    # The longest pattern: a link that is left out would have to be read as operators and operands, and
-    # what may stand behind these may stand behind the pattern.
+    # The longest pattern is taken. If a link were left out, it would have to be read as operators and
+    # operands, and every text that may stand behind these may stand behind the pattern.
     ("oC_RelationshipsPattern", 0),
 }
 
-# The rules whose nodes some analysis asks for. None matches nothing, so nesting shows in the spans.
+# The rules whose nodes some analysis asks for. None of them matches an empty text, so the ranges of the
+# nodes show how they nest.
 TREE_RULES = (
     "oC_Union",
     "oC_Unwind",
@@ -58,12 +59,12 @@ TREE_RULES = (
     "oC_PropertyKeyName",
 )
 
-# Every recursion of the rules passes one of these, which look at the stack.
+# The rules that check the stack. Every recursion passes one of them.
 STACK_CHECKS = ("oC_Expression", "oC_PatternElement", "oC_ExistentialSubquery")
 
 HEADER = "// Written by grammar/compile_grammar.py from grammar/Cypher.g4; not to be edited.\n"
 WIDTH = 100
-FEW = 4  # tokens that are compared one by one
+FEW = 4  # up to so many tokens are compared one by one
 
 
 def fail(message: str) -> None:
@@ -88,14 +89,15 @@ def array(declaration: str, values: list) -> str:
 
 
 class LexerTables:
-    """The automaton, packed: a few KiB, which a call finds in the processor's cache or soon brings there.
+    """The automaton, packed into a few KiB, so that it fits the processor's cache.
 
-    Most states differ from another one, as those within a keyword from that of any other name, in one or
-    two transitions. So a state has those alone, and a state that it is like otherwise. The transitions of
-    all states lie in one list, each row where it fits between others.
+    Most states differ from some other state in one or two transitions only: a state within a keyword is
+    nearly like the state within any other name. So a state has only its own transitions, and the number
+    of the state that has the others. The transitions of all states lie in one list, and the rows fill
+    the gaps of each other.
 
-    Half of all tokens are a single ASCII character, such as a blank or a parenthesis. For these it takes
-    a look at the next character only: is it among those that cannot belong to the token?
+    Half of all tokens are a single ASCII character, such as a blank or a parenthesis. For these the lexer
+    only checks that the next character cannot belong to the token.
     """
 
     def __init__(self, automaton: LexerAutomaton) -> None:
@@ -107,13 +109,13 @@ class LexerTables:
         self._begin()
 
     def _differences(self, state: int, other: int) -> dict:
-        """The transitions that `state` must have by itself if all others are those of `other`."""
+        """The transitions that `state` must have itself if it shares all others with `other`."""
         row, base = self._rows[state], self._rows[other]
         own = {number: target for number, target in row.items() if base.get(number) != target}
         return own | {number: 0 for number in base if number not in row}
 
     def _alike(self) -> list:
-        """By state: one that it is like, which is like none itself, or the dead one."""
+        """By state: the state that it shares transitions with, which shares none itself, or the dead state."""
         states = range(len(self._rows))
         likes = [0 for _ in states]
         needed = [len(row) for row in self._rows]
@@ -146,7 +148,7 @@ class LexerTables:
         self._entries = [taken.get(place, (0, 0)) for place in range(length)]
 
     def _begin(self) -> None:
-        """By ASCII character: the state behind it, and the ASCII characters that lead nowhere from there."""
+        """Finds for each ASCII character the state behind it and the ASCII characters that end a token there."""
         numbers = {}
         self._beginnings = []
         for first in range(128):
@@ -156,7 +158,7 @@ class LexerTables:
         self._stops = list(numbers)
 
     def _divide(self) -> tuple:
-        """The classes of 256 code points each, and which of these pages stands where."""
+        """The distinct pages with the classes of 256 code points, and the page of each 256 code points."""
         by_code_point = [number for first, last, number in self._automaton.classes for _ in range(first, last + 1)]
         known = {}
         page_of = []
@@ -306,7 +308,7 @@ class RuleFunctions:
         return [one for one in names_in(self._rules[name]) if not (loops and one == name)]
 
     def _loops(self, name: str) -> bool:
-        """Whether a rule calls itself, and only at its very end: the call becomes a loop."""
+        """Whether a rule calls itself only at its very end, so that the call becomes a loop."""
         body = self._rules[name]
         return name in names_in(body) and name not in names_in_front(body)
 
@@ -362,7 +364,7 @@ Verdict parseExpression(SyntaxTree& tree) {{
         return self._decisions[(self._rule, self._ordinal - 1)]
 
     def _code(self, expression: tuple, indent: str, is_last: bool = False) -> str:
-        """`is_last` says that a call of the rule itself may start it anew instead."""
+        """With `is_last`, a call of the rule itself may become a `continue` of its loop."""
         kind = expression[0]
         if kind == "sequence":
             return self._sequence(expression[1], indent, is_last)
@@ -390,7 +392,7 @@ Verdict parseExpression(SyntaxTree& tree) {{
         return code
 
     def _list(self, element: tuple, separators: tuple, indent: str) -> str:
-        """With one call of the element's rule the compiler makes one function of many, with one frame."""
+        """Calls the element's rule in one place only, so the C++ compiler can inline it and saves frames."""
         element_code = self._code(element, indent + "  ")
         decision = self._next_decision()
         condition = self._condition(self._choices[(decision.rule, decision.ordinal)])
@@ -445,7 +447,7 @@ Verdict parseExpression(SyntaxTree& tree) {{
         return self._switch(self._choices[place], Alternatives(codes, functions, default), indent)
 
     def _switch(self, choices: list, alternatives: "Alternatives", indent: str) -> str:
-        """Where one token does not tell, the alternative is found first, so that its code stands once."""
+        """If one token does not tell, the code first finds the alternative, so each one is written once."""
         if not all(isinstance(one.outcome, tuple) and len(one.outcome) == 1 for one in choices):
             lists = sorted({outcome for _, outcome in self._undecided(choices)})
             cases = "".join(
@@ -489,7 +491,7 @@ Verdict parseExpression(SyntaxTree& tree) {{
         return f"{code}{indent}}}\n"
 
     def _condition(self, choices: list, depth: int = 0) -> str:
-        """Whether the first alternative is possible."""
+        """A C++ condition: is the first alternative possible?"""
         terms = []
         for tokens, outcome in choices:
             if isinstance(outcome, list):
@@ -532,7 +534,7 @@ class Alternatives:
 
 
 def separators_of(parts: tuple) -> tuple:
-    """Of `rule ( separators rule )*` the separators, else nothing."""
+    """The separators if the parts are `rule ( separators rule )*`, else nothing."""
     if len(parts) != 2 or parts[0][0] != "rule" or parts[1][0] != "star" or parts[1][1][0] != "sequence":
         return ()
     *separators, last = parts[1][1][1]
@@ -540,7 +542,7 @@ def separators_of(parts: tuple) -> tuple:
 
 
 def names_in_front(expression: tuple) -> list:
-    """The rules that are called elsewhere than at the end."""
+    """The rules that an expression calls before its end."""
     kind = expression[0]
     if kind == "sequence":
         *parts, last = expression[1]
@@ -553,7 +555,7 @@ def names_in_front(expression: tuple) -> list:
 
 
 def labels(values: list, indent: str) -> str:
-    """The labels of one case, as many in a line as there is room for."""
+    """The labels of one case, in lines of at most WIDTH characters."""
     lines = [f"{indent} "]
     for value in values:
         label = f" case {value}:"
@@ -564,7 +566,7 @@ def labels(values: list, indent: str) -> str:
 
 
 def code_of(outcome: tuple) -> int:
-    """A number for an alternative, or for several that are to be tried."""
+    """A number for one alternative or for several that are to be tried."""
     code = 0
     for one in outcome:
         code = code * 100 + one
@@ -645,7 +647,7 @@ void tellOfLeaving(Listener& listener, const SyntaxTree::Node& node) {{
 
 
 class AntlrLookahead:
-    """What the compiled lookahead knows of the decisions of the parser that the ANTLR tool generates."""
+    """The compiled lookahead for the decisions of the parser that the ANTLR tool generates."""
 
     def __init__(self, grammar: Grammar) -> None:
         network = Network(rules_as_written(grammar), ())

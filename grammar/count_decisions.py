@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Prints by how many tokens the parser decides, and how large the automaton of the lexer is.
+"""Prints how many tokens the decisions of the parser take, and how large the lexer's automaton is.
 
 A decision is a place where a text may go on in several ways.
 """
@@ -17,14 +17,14 @@ GENERATED = Path(__file__).parent / "generated"
 
 
 def tokens(outcome: "list | tuple") -> int:
-    """How many tell the alternatives apart; more than the compiler looks at if these do not."""
+    """How many tokens tell the alternatives apart; LONGEST_LOOKAHEAD + 1 if that many do not."""
     if isinstance(outcome, list):
         return 1 + max(tokens(one.outcome) for one in outcome)
     return 0 if len(outcome) == 1 else LONGEST_LOOKAHEAD + 1
 
 
 def decisions(rules: dict) -> dict:
-    """The rules of the decisions, by the number of tokens."""
+    """The rules of the decisions, by the number of tokens that a decision takes."""
     network = Network(rules, STARTS)
     lookahead = Lookahead(network)
     found = {count: [] for count in range(1, LONGEST_LOOKAHEAD + 2)}

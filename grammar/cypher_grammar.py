@@ -1,4 +1,4 @@
-"""Reads Cypher.g4 into expressions, for everybody who needs the grammar.
+"""Reads Cypher.g4 into expressions, for all scripts that need the grammar.
 
 An expression is a tuple whose first member is its kind:
 
@@ -8,7 +8,7 @@ An expression is a tuple whose first member is its kind:
     ("literal", text)                 a quoted text
     ("range", first, last)            one character, by code points
     ("set", text)                     one of the characters between square brackets
-    ("not", expression)               one character that is not in the expression
+    ("not", expression)               one character that the expression does not stand for
 """
 
 import re
@@ -55,7 +55,7 @@ class Grammar:
         self._at = 0
         self._read()
         self.token_rules = [name for name in self.lexer_rules if name not in self.fragments]
-        # Literals of the parser rules come first. The type of a token is its place, from 1 on.
+        # Literals of the parser rules come first. The type of a token is its place, counted from 1.
         self.token_names = [*(f"'{literal}'" for literal in self.literals), *self.token_rules]
         self.token_types = {name: place for place, name in enumerate(self.token_names, start=1)}
 
@@ -75,7 +75,7 @@ class Grammar:
         raise ValueError(f"{expression} is no single character")
 
     def keyword(self, name: str) -> str:
-        """The word that a token rule matches in any case, or nothing."""
+        """The word that a token rule matches in upper and lower case, or "" if it matches something else."""
         body = self.lexer_rules[name]
         word = ""
         for letter in body[1] if body[0] == "sequence" else ():
@@ -175,7 +175,7 @@ class Grammar:
 
 
 def merged(ranges: list) -> list:
-    """The same code points in as few ranges as possible, in their order."""
+    """The same code points in as few ranges as possible, in ascending order."""
     result = []
     for first, last in sorted(ranges):
         if result and first <= result[-1][1] + 1:

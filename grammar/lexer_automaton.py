@@ -1,8 +1,12 @@
 """The lexer rules as one deterministic automaton over classes of characters.
 
-Of several matches the longest wins, of equally long ones the first rule: an accepting state bears
-the type of the first rule that ends there. The end of the text is a character of its own, which
-only a line comment asks for.
+First the rules become a nondeterministic automaton with silent edges (`_add_token`). Characters that
+no edge tells apart form a class (`_divide_characters`). Sets of states become the states of the
+deterministic automaton (`_determine`), and states that nothing tells apart are merged (`_minimise`).
+
+Of several matches the longest wins, of equally long ones that of the first rule: an accepting state
+has the type of the first rule that ends there. The end of the text counts as a character, which only
+a line comment asks for.
 """
 
 from cypher_grammar import LAST_CODE_POINT, Grammar
@@ -11,9 +15,9 @@ from cypher_grammar import LAST_CODE_POINT, Grammar
 class LexerAutomaton:
     """Classes by code point, and for each state its transitions by class and its token types.
 
-    `classes` holds (first, last, class) without gaps. State 0 is dead, state 1 the start. `accepts`
-    holds the type of the token that ends in a state, or 0, and `accepts_at_end` what it is at the end
-    of the text.
+    `classes` holds (first, last, class) without gaps. State 0 is dead, state 1 is the start. `accepts`
+    holds by state the type of the token that ends there, or 0. `accepts_at_end` holds the same for the
+    end of the text.
     """
 
     def __init__(self, grammar: Grammar) -> None:
@@ -167,5 +171,5 @@ class LexerAutomaton:
         rows = [[numbers[blocks[target]] for target in self.transitions[state]] for state in order]
         self.accepts = [self.accepts[state] for state in order]
         self.accepts_at_end = [self.accepts[row[0]] or accepted for row, accepted in zip(rows, self.accepts)]
-        # A state that only the end of the text leads to is seen in `accepts_at_end`.
+        # `accepts_at_end` has the result of the edges for the end of the text, so these are dropped.
         self.transitions = [[0, *row[1:]] for row in rows]

@@ -1,23 +1,23 @@
 """Tells the alternatives of each decision of the parser rules apart by the tokens ahead.
 
-The rules become a network of states as the ANTLR tool builds it: silent edges, edges for sets of
-tokens, and calls of rules. From a decision each alternative is followed for a few tokens; at the
-end of the decision's rule the way goes on behind every place that calls it. What one alternative can
-do within the rule, and an earlier one can do as well, belongs to the earlier one.
+The rules become a network of states, as the ANTLR tool builds it: silent edges, edges for sets of
+tokens, and calls of rules. Each alternative of a decision is followed for a few tokens. At the end of
+the decision's rule the way goes on behind every call of that rule. If two alternatives can do the same
+within the rule, it belongs to the earlier one.
 """
 
 from typing import Iterator, NamedTuple, Union
 
 LONGEST_LOOKAHEAD = 3
-# What tells the runtime's prediction may be further ahead where few tokens leave it open, as in names
-# with dots.
+# The lookahead for the runtime's prediction goes further where only few tokens leave the decision open,
+# as in names with dots.
 LONGEST_NARROW_WAY = 7
 NARROW_WAY = 2
-END_OF_TEXT = 0  # as a token type; more of it follows
+END_OF_TEXT = 0  # a token type; the end of the text is followed by itself
 
 
 class Choice(NamedTuple):
-    """What to do at a token ahead: an alternative, alternatives to be tried, or a look further."""
+    """What some tokens ahead mean: one alternative, several to be tried, or a look at the next token."""
 
     tokens: frozenset
     outcome: Union[tuple, list]  # numbers of alternatives, from 1 on, or further choices
@@ -26,7 +26,7 @@ class Choice(NamedTuple):
 class Decision(NamedTuple):
     rule: str
     ordinal: int  # within the rule, in the order of the text
-    expression: tuple  # of a choice, an optional, a star or a plus
+    expression: tuple  # a choice, an optional, a star or a plus
     ways: tuple  # the states that the alternatives begin with
     number: int  # as the ANTLR tool counts, from 0 on
 
@@ -45,7 +45,7 @@ class Network:
             self._ordinal = 0
             last = self._build(body, self.begins[self._rule])
             self.edges[last].append(("silent", self.ends[self._rule]))
-        # Behind a whole text there is nothing but its end.
+        # Behind a whole text only its end follows.
         over = self._state()
         self.edges[over].append((frozenset({END_OF_TEXT}), over))
         for name in starts:
@@ -63,7 +63,7 @@ class Network:
         return self._ordinal - 1
 
     def _build(self, expression: tuple, first: int) -> int:
-        """Builds the expression from the state `first` on and says where it ends."""
+        """Builds the expression from the state `first` on and returns its last state."""
         kind = expression[0]
         if kind == "sequence":
             for part in expression[1]:
@@ -116,15 +116,15 @@ class Network:
 
 
 def branches(expression: tuple) -> tuple:
-    """An optional choice is one decision: each alternative, or none."""
+    """The alternatives of an optional expression. An optional choice is one decision, not two."""
     return expression[1] if expression[0] == "choice" else (expression,)
 
 
 class Lookahead:
     """Follows the alternatives of decisions.
 
-    A configuration is (state, stack, popped): the calls made since the decision, as a number, and
-    whether the way has left the rule of the decision.
+    A configuration is (state, stack, popped). `stack` is a number for the calls since the decision.
+    `popped` tells whether the way has left the rule of the decision.
     """
 
     def __init__(self, network: Network) -> None:
@@ -136,13 +136,13 @@ class Lookahead:
         return self._choices(self._fronts(decision), 1)
 
     def exact_choices(self, decision: Decision) -> list:
-        """Only what the runtime's prediction finds out before two alternatives meet in a configuration.
+        """The choices of the runtime's prediction, as long as no two alternatives share a configuration.
 
-        Where the outcome is empty it is not known. At a token that leads on from none of them, which
-        the last choice is for, the runtime takes the first one that has left the rule.
+        An empty outcome means that the choice is not known. The last choice is for all other tokens, by
+        which no alternative goes on: there the runtime takes the first one that has left the rule.
         """
         fronts = self._fronts(decision)
-        # Where one token always tells, the generated parser asks nobody.
+        # Where one token always tells, the generated parser asks for no prediction.
         is_told_by_one = all(len(nexts) == 1 for _, nexts in self._by_token(fronts))
         return [] if is_told_by_one else self._exact_choices(fronts, 1)
 
@@ -157,7 +157,7 @@ class Lookahead:
         return self._numbers[key]
 
     def _closure(self, configurations: list) -> dict:
-        """What can be reached without a token, as configurations in front of sets of tokens."""
+        """The configurations in front of a set of tokens that can be reached without a token."""
         network = self._network
         seen = set(configurations)
         waiting = list(configurations)
@@ -185,7 +185,7 @@ class Lookahead:
         return found
 
     def _by_token(self, fronts: list) -> Iterator[tuple]:
-        """Sets of tokens that lead on from the same configurations, with these by alternative."""
+        """Sets of tokens that lead on from the same configurations, with their targets by alternative."""
         by_token = {}
         for alternative, found in fronts:
             for configuration, (types, _) in found.items():
@@ -218,7 +218,7 @@ class Lookahead:
 
     @staticmethod
     def _without_repeated(fronts: list) -> list:
-        """Without what an earlier alternative can do as well, which popped ways do not show."""
+        """Drops what an earlier alternative can do as well. Ways that have left the rule are kept."""
         earlier = set()
         left = []
         for alternative, found in fronts:
@@ -254,7 +254,7 @@ class Lookahead:
 
 
 def joined(choices: list) -> list:
-    """Tokens with the same outcome together, in the order of the tokens."""
+    """Joins the tokens with the same outcome, in the order of the tokens."""
     together = {}
     outcomes = {}
     for choice in choices:
@@ -266,7 +266,7 @@ def joined(choices: list) -> list:
 
 
 class Tokens(frozenset):
-    """A set that is always written in the same order."""
+    """A set whose text form always has the same order."""
 
     def __repr__(self) -> str:
         return repr(sorted(self))

@@ -1,16 +1,17 @@
 """Brings the parser rules into the form that they are compiled from.
 
-It accepts the same texts with the same tree as the grammar. Single tokens become sets of types, and
-alternatives that begin alike share their beginning, so that the decision between them comes behind it.
+This form accepts the same texts as the grammar and gives the same tree. Single tokens become sets of
+types. Alternatives that begin alike share their beginning, so the parser decides between them only
+behind it.
 """
 
 from cypher_grammar import Grammar
 
-# An equivalent form where the grammar's own cannot be decided by looking a few tokens ahead.
+# Equivalent forms of the rules that a few tokens ahead cannot decide.
 EQUIVALENT = {
-    # A part of a query shows only at its end, by a WITH, that another part follows. Both kinds of
-    # parts begin alike, and none of their rules has a place in the tree. So a part is read up to
-    # where it ends, and then the rest of the query as one.
+    # Only the WITH at the end of a part tells that another part follows. The last part and the others
+    # begin alike, and none of their rules has nodes. So a part is read up to its end, and then the
+    # rest of the query as a query of its own.
     "oC_SingleQuery": """
         ( oC_ReadingClause SP? )*
         ( oC_Return
@@ -23,7 +24,7 @@ NOTHING = ("sequence", ())
 
 
 def with_token_types(expression: tuple, grammar: Grammar) -> tuple:
-    """The expression with ("token", types) and ("rule", name) at its ends."""
+    """The expression with ("token", types) and ("rule", name) in place of names and literals."""
     kind = expression[0]
     if kind in ("sequence", "choice"):
         parts = tuple(with_token_types(part, grammar) for part in expression[1])
@@ -86,7 +87,7 @@ def with_shared_beginnings(expression: tuple) -> tuple:
 
 
 def choice(alternatives: list) -> tuple:
-    """A choice between sequences of elements, of which neighbours share what they begin with."""
+    """A choice between sequences of elements, in which neighbours share their beginning."""
     ending = shared_ending(alternatives)
     if ending and len(alternatives) > 1:
         heads = [alternative[:-len(ending)] for alternative in alternatives]
@@ -131,7 +132,7 @@ def shared_ending(alternatives: list) -> tuple:
 
 
 def with_optional_beginning_expanded(alternatives: list) -> list:
-    """Of neighbours `x …` and `x? …` the second becomes `x …` and `…`; nothing if there are none."""
+    """Splits `x? …` beside `x …` into the alternatives `x …` and `…`; empty if there is no such pair."""
     for place in range(len(alternatives) - 1):
         first, second = alternatives[place : place + 2]
         for mandatory, optional, at in ((first, second, place + 1), (second, first, place)):

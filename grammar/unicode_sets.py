@@ -2,8 +2,8 @@
 """Writes the Unicode sets of Cypher.g4 as explicit ranges.
 
 The ANTLR tool's own property data is older than Unicode 15.0, so the grammar
-cannot use \\p{ID_Start} and its like. Each set stands between two marker lines
-of Cypher.g4; this script rewrites what is between them from the data files of
+cannot use \\p{ID_Start} and the like. Each set stands between two marker lines
+of Cypher.g4. This script rewrites the lines between them from the data files of
 Debian's package unicode-data.
 
     grammar/unicode_sets.py           rewrite the sets in grammar/Cypher.g4
@@ -71,7 +71,7 @@ def fragment_rule(name: str) -> str:
 
 
 def with_sets(grammar: str) -> str:
-    """The grammar text with every set written anew between its marker lines."""
+    """The text of the grammar with new sets between their marker lines."""
     for name in SETS:
         marked = re.compile(rf"(?<=^// begin {name}: )(.*?\n).*?(?=^// end {name}$)", re.DOTALL | re.MULTILINE)
         grammar, replaced = marked.subn(
