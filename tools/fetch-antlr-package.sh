@@ -13,7 +13,7 @@ fail() {
 }
 
 [ ! -d "$target" ] || exit 0
-[ "$(dpkg --print-architecture)" = amd64 ] || fail "the packages whose hashes it knows are those for amd64."
+[ "$(dpkg --print-architecture)" = amd64 ] || fail "it knows the hashes of the packages for amd64 only."
 
 "$tools/fetch-from-pool.sh" $pool/libantlr4-runtime4.10_4.10+dfsg-1_amd64.deb \
     42195acd94ed3af0240b2bff9f0032a5ab4777600cf2888683f56090cf244181 antlr4-package-4.10-library
