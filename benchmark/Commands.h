@@ -3,24 +3,24 @@
 #include <string>
 #include <vector>
 
-/// What stands behind the name of a command. TEXTS is a file as corpus.py or shapes.py writes it, a
-/// SUBJECT is "bare" or the path of a shared library.
+/// The arguments behind the name of a command. TEXTS is a file that corpus.py or shapes.py has
+/// written. A SUBJECT is "bare" or the path of a shared library.
 using Arguments = std::vector<std::string>;
 
 // Each command prints what it measures and throws a std::exception if it cannot.
 
 /// TEXTS SUBJECT... [--benchmark_...]: the time of each group of texts, then of all texts in one,
-/// two and four threads. The others are compared with the first subject.
+/// two and four threads. Later subjects are compared with the first one.
 void measureTimes(const Arguments& arguments);
 
 /// TEXTS SUBJECT...: the time of each text, as comma-separated values.
 void measureGrowth(const Arguments& arguments);
 
-/// SUBJECT: the microseconds that loading it takes, its first call and its second one.
+/// SUBJECT: the microseconds of loading it, of its first call and of its second call.
 void measureFirstCall(const Arguments& arguments);
 
-/// TEXTS SUBJECT: runs under callgrind, which writes one dump for each call, named by what was
-/// called.
+/// TEXTS SUBJECT: runs under callgrind, which writes one dump for each call, named by the function
+/// and the text.
 void countInstructions(const Arguments& arguments);
 
 /// LIBRARY MILLIONS: makes random calls on all functions and prints the memory of the process at

@@ -13,7 +13,7 @@ namespace {
 
 using Subjects = std::vector<std::unique_ptr<Subject>>;
 
-// The times of all subjects in turn, until there are enough for a median or they have taken long.
+// Times the subjects in turn, until there are enough times for a median or they have taken long.
 std::vector<std::vector<double>> timesOf(const Subjects& subjects, Subject::Function function,
                                          const Text& text) {
   constexpr std::size_t enough = 21;

@@ -8,7 +8,7 @@
 
 namespace {
 
-// One call alone may be the one in which the heap tidies up.
+// A single call might happen to be the one in which the heap tidies up.
 constexpr int callsPerCount = 2;
 
 void fillTables(const std::vector<Text>& texts, const Subject& subject) {
@@ -23,7 +23,7 @@ void count(const std::vector<Text>& texts, const Subject& subject) {
   for (std::size_t i = 0; i < texts.size(); ++i) {
     for (const Subject::Function function : functionsFor(texts[i])) {
       const std::string name = subject.name + '\t' + nameOf(function) + '\t' + std::to_string(i);
-      subject.call(function, texts[i]);  // sorts what the text before has left on the heap
+      subject.call(function, texts[i]);  // tidies the heap after the text before
       CALLGRIND_ZERO_STATS;
       for (int call = 0; call < callsPerCount; ++call) {
         subject.call(function, texts[i]);

@@ -51,7 +51,7 @@ void measureLargeTexts(const Arguments& arguments) {
   const Calls library = loadCalls(arguments.at(0));
   constexpr std::size_t factor = 4;
   for (std::size_t i = 0; i < linearTexts().size(); ++i) {
-    // The first four are one token each, and so may be larger.
+    // The first four kinds are a single token each, and so may be larger.
     const std::size_t largest = i < 4 ? 64 * mebibyte : mebibyte;
     print(library, linearTexts()[i], largest / 64, largest, factor);
   }

@@ -3,7 +3,7 @@
 #include <exception>
 #include <iostream>
 
-/// What main() of a program that measures returns: runs it, and reports what ends it early.
+/// Runs a program that measures and returns the result of its main(). Reports an exception.
 template <typename Run>
 int runProgram(const char* name, const Run& run) {
   try {

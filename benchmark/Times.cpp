@@ -40,13 +40,13 @@ Groups group(const std::vector<Text>& texts) {
   return groups;
 }
 
-// What one subject took: all calls added up, and the fastest one for each text, which is what the
-// neighbours on a shared machine disturb least.
+// The seconds that one subject took. Other programs on a shared machine disturb the fastest call
+// least.
 struct Taken {
   explicit Taken(std::size_t texts) : fastest(texts, std::numeric_limits<double>::infinity()) {}
 
-  double sum = 0;
-  std::vector<double> fastest;
+  double sum = 0;               // of all calls
+  std::vector<double> fastest;  // call, by text
 };
 
 double total(const std::vector<double>& values) {
@@ -131,7 +131,8 @@ void registerAll(const Groups& groups, const Subjects& subjects) {
   }
 }
 
-// Google Benchmark takes its flags from the arguments of a program, and keeps the program's name.
+// Google Benchmark removes its own flags from the arguments, but needs a program's name before
+// them.
 Arguments withoutFlags(Arguments arguments) {
   static std::string program = "vorn-bench";
   std::vector<char*> argv = {program.data()};

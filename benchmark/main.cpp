@@ -1,4 +1,4 @@
-// vorn-bench COMMAND ARGUMENT...: the measurements, see Commands.h.
+// vorn-bench COMMAND ARGUMENT...: runs one of the measurements in Commands.h.
 
 #include <array>
 #include <cstddef>

@@ -7,7 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
-/// One text as corpus.py or shapes.py writes it.
+/// One text that corpus.py or shapes.py has written.
 struct Text {
   enum class Entry { Query, Filter };
 
@@ -18,8 +18,8 @@ struct Text {
   std::unordered_map<vorn::WideString, vorn::WideString> renames;  // for a filter
 };
 
-/// Reads one JSON object from each line. Throws a std::exception when one is no text.
+/// Reads one JSON object from each line. Throws a std::exception if a line is no text.
 std::vector<Text> readTexts(std::istream& in);
 
-/// Opens the file, and names it if it cannot be read.
+/// The same from a file. The exception names the file if it cannot be read.
 std::vector<Text> readTexts(const std::string& fileName);

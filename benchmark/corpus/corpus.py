@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the texts to measure with, always the same ones, as one JSON object in each line.
+"""Writes the texts to measure with, one JSON object in each line. Every run writes the same texts.
 
 Each object has `group`, `entry` ("query" or "filter"), `text` and, for a filter, `renames`. The samples under examples/
 are among them.
@@ -18,7 +18,7 @@ EXAMPLES = pathlib.Path(__file__).parents[2] / 'examples'
 
 
 def sizes(rng, count, smallest, largest):
-    """As many short ones as long ones on a logarithmic scale."""
+    """Random lengths, evenly spread on a logarithmic scale."""
     return [int(math.exp(rng.uniform(math.log(smallest), math.log(largest)))) for _ in range(count)]
 
 
@@ -32,7 +32,7 @@ def query(group, text):
 
 
 def filter_(group, text, writer):
-    # Half of the names are in the text as a rule, so renaming finds some and misses some.
+    # Usually half of the names are in the text, so renaming finds some and misses some.
     names = writer.random.sample(vocabulary.VARIABLES, 5)
     return {'group': group, 'entry': 'filter', 'text': text,
             'renames': {name: f'renamed_{i}' for i, name in enumerate(names)}}

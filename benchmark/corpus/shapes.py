@@ -8,7 +8,7 @@ import json
 import sys
 
 SIZES = [2 ** power for power in range(11)]
-# Deeper than this the parser needs more stack than a thread may have.
+# With more levels the parser might need more stack than a thread has.
 DEEPEST = 512
 
 

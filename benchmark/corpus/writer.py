@@ -66,7 +66,7 @@ class Writer:
         return self.property() + operator + self.value()
 
     def condition(self):
-        """One operand of a filter, without variables or patterns of its own."""
+        """One operand of a filter, which brings no variables or patterns of its own."""
         return self.one_of(
             self.comparison, self.comparison, self.comparison,
             lambda: f'{self.property()} IS {self.random.choice(("NULL", "NOT NULL"))}',
@@ -87,7 +87,7 @@ class Writer:
         return text
 
     def element_with_own_variables(self):
-        """What a filter must not hold and a query may."""
+        """An element that a query may hold and a filter must not."""
         inner = self.random.choice(('x', 'y', 'item'))
         return self.one_of(
             lambda: f'[{inner} IN {self.property()} WHERE {inner}.{self.key()} > {self.number()} | {inner}.{self.key()}]',
@@ -236,12 +236,12 @@ class Writer:
         return self.random.choice((') ' + text, text + ' ,', f'{before} ) {after}', f'{before} = .. {after}'))
 
     def damaged_filter(self, text):
-        """As above, but the damage must not look like the end of the filter."""
+        """The same for a filter, with damage that cannot look like the end of the filter."""
         before, after = self.halves(text)
         return self.random.choice((') ' + text, text + ' AND', f'({text}', f'{before} = .. {after}'))
 
     def halves(self, text):
-        """The text in two parts, with a blank between them that is in no quoted name and no string."""
+        """The text before and behind a blank that stands in no quoted name and no string."""
         blanks = [i for i, character in enumerate(text)
                   if character == ' ' and all(text.count(quote, 0, i) % 2 == 0 for quote in '`\'"')]
         middle = blanks[len(blanks) // 2] if blanks else len(text)

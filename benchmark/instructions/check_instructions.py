@@ -20,7 +20,8 @@ from collections import defaultdict
 
 HERE = pathlib.Path(__file__).parent
 FIGURES = HERE / 'figures.json'
-# A filter with an error is predicted by tables of its own, which bare's calls share and have filled.
+# A filter with an error may take more: its call fills a prediction cache of its own, while the calls of
+# the bare pipeline share one that is already filled.
 LIMIT = 1.25
 SHAPE_SIZES = ('1', '64')
 GROWTH = 1.02
@@ -34,7 +35,7 @@ def start(build, texts, subject, folder):
 
 
 def counts_in(folder):
-    """Instructions by function and place of the text."""
+    """Pairs of (function, place of the text) and the instructions of that call."""
     for dump in pathlib.Path(folder).iterdir():
         with dump.open(encoding='utf-8', errors='replace') as lines:
             head = ''.join(line for _, line in zip(range(20), lines))
@@ -44,7 +45,7 @@ def counts_in(folder):
 
 
 def counts(build, texts, subjects):
-    """What each subject counts, in a process of its own: what one leaves on the heap would slow another by some percent."""
+    """The counts of each subject. Each has its own process: the heap of one would slow the next by some percent."""
     with contextlib.ExitStack() as folders:
         runs = []
         for subject in subjects:

@@ -16,8 +16,8 @@ Heap heap() { return counted; }
 
 void resetPeak() { counted.peak = counted.live; }
 
-// Sizes are those that malloc sets aside, which is more than what is asked for. The program has one
-// thread, so plain numbers do. The other forms of new and delete call these two.
+// Sizes are those that malloc really takes, which is more than what is asked for. The program has
+// one thread, so plain numbers suffice. The other forms of new and delete call these two.
 void* operator new(std::size_t size) {
   void* block = std::malloc(size);  // NOLINT(cppcoreguidelines-no-malloc)
   if (block == nullptr) {

@@ -1,4 +1,4 @@
-// Counts what each call allocates, and its peak, as comma-separated values:
+// Prints the allocations of each call and its peak as comma-separated values:
 //
 //   vorn-memory TEXTS SUBJECT...
 

@@ -12,8 +12,8 @@
 
 namespace {
 
-// The library ends at the first error. A host's own pipeline has to do so as well, for the rest of
-// the tree is a guess.
+// Behind the first error the tree is a guess. So a host's own pipeline would end there, as the
+// library does.
 class FirstErrorEnds : public antlr4::BaseErrorListener {
  public:
   void syntaxError(antlr4::Recognizer* /*recognizer*/, antlr4::Token* /*offendingSymbol*/,

@@ -2,13 +2,13 @@
 
 #include "Subject.h"
 
-/// What a host would write that calls the parser itself: it builds the pipeline and walks the tree
-/// with a listener that does nothing. The function called makes no difference.
+/// The code of a host that calls the parser itself: it builds the pipeline and walks the tree with
+/// a listener that does nothing. It does the same for every function.
 class [[gnu::visibility("default")]] BarePipeline : public Subject {
  public:
   BarePipeline() : Subject("bare") {}
   void call(Function function, const Text& text) const override;
 };
 
-/// The tokens of a text, white space included, the end of the text not.
+/// How many tokens a text has, with white space and without the end of the text.
 [[gnu::visibility("default")]] std::size_t countTokens(const Text& text);

@@ -6,16 +6,16 @@
 
 #include "Subject.h"
 
-/// The processor time that this thread has spent, in seconds. Unlike the time of day it does not
-/// count what other programs take from a shared machine.
+/// The processor time of the calling thread, in seconds. Unlike the time of day it does not count
+/// the work of other programs.
 inline double threadSeconds() {
   timespec now{};
   clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
   return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
 
-/// Joins the small blocks that the call before has given back. The next large one would do it
-/// otherwise, so that one subject would pay for what another one has left.
+/// Joins the small blocks that the call before has freed. Otherwise the next large allocation would
+/// do that, and one subject would pay for another one.
 inline void tidyHeap() {
   constexpr std::size_t large = std::size_t{64} * 1024;
   ::operator delete(::operator new(large));

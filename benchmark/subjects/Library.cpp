@@ -11,7 +11,7 @@
 
 namespace {
 
-// build/bench/libVornLib.so is "bench".
+// The name of the folder: "bench" for build/bench/libVornLib.so.
 std::string folderOf(const std::string& path) {
   return std::filesystem::absolute(path).parent_path().filename();
 }

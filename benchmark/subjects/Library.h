@@ -14,6 +14,6 @@ class Library : public Subject {
   Calls calls_;
 };
 
-/// Loads the library and leaves it in the process, for its code must outlive every call. Throws a
+/// Loads the library and never unloads it, since its code must outlive every call. Throws a
 /// std::runtime_error if it cannot be loaded.
 Calls loadCalls(const std::string& path);

@@ -6,7 +6,7 @@
 
 #include "corpus/Corpus.h"
 
-/// What is measured, called alike so that its calls can be interleaved.
+/// A thing to measure. All subjects are called alike, so that their calls can be interleaved.
 class Subject {
  public:
   enum class Function { Columns, Usages, Renaming };
@@ -26,7 +26,7 @@ class Subject {
   explicit Subject(std::string subjectName) : name(std::move(subjectName)) {}
 };
 
-/// The functions that a text is for.
+/// The functions that take such a text.
 inline const std::vector<Subject::Function>& functionsFor(const Text& text) {
   static const std::vector<Subject::Function> forQueries = {Subject::Function::Columns};
   static const std::vector<Subject::Function> forFilters = {Subject::Function::Usages,
@@ -45,5 +45,5 @@ inline const char* nameOf(Subject::Function function) {
   }
 }
 
-/// "bare" is the pipeline in this program; everything else is the path of a shared library.
+/// "bare" gives the pipeline in this program; everything else is the path of a shared library.
 std::unique_ptr<Subject> makeSubject(const std::string& bareOrPath);
