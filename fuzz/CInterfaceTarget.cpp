@@ -7,7 +7,7 @@
 
 namespace {
 
-// What can be compared between the encodings. The strings are checked on the way.
+// The parts of an answer that can be compared between the encodings.
 struct Told {
   std::int32_t kind;
   std::vector<std::size_t> numbers;
@@ -18,7 +18,7 @@ void requireString(const Unit* string, std::size_t length) {
   require(string != nullptr && string[length] == 0, "a string is there, with a zero behind it");
 }
 
-// Asks for everything, whether the answer holds it or not.
+// Reads everything that an answer may hold, and checks the strings.
 Told toldBy(vorn_answer* answer, std::size_t textLength, bool isUtf16) {
   require(answer != nullptr, "there is an answer");
   Told told{vorn_error_kind(answer), {vorn_error_line(answer), vorn_error_column(answer)}};
@@ -71,8 +71,8 @@ void requireSame(const Told& one, const Told& other) {
 
 }  // namespace
 
-/// The input is a text in UTF-8, well formed or not, about which every question is asked. The names
-/// to rename are pieces of it.
+// The input is a text in UTF-8, well formed or not. The target asks every question about it; the
+// names to rename are pieces of the text.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text = bytesOf(data, size);
   const vorn::WideString wide = wideFrom(text);

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Enough for subqueries in comprehensions in a query, and far from what a stack cannot hold.
+// Enough for subqueries in comprehensions in a query, and far less than a stack can hold.
 constexpr std::size_t deepest = 60;
 constexpr std::size_t mostRepetitions = 6;
 
@@ -95,7 +95,7 @@ class Deriver {
     }
   }
 
-  // One time in eight at each place: with more, the levels of an expression would multiply.
+  // Repeats one time in eight. More often, the levels of an expression would multiply.
   void repeat(const Element& element) {
     for (std::size_t i = 0; i < mostRepetitions && !mustEnd() && next() % 8 == 7; ++i) {
       walk(element);
@@ -111,7 +111,7 @@ class Deriver {
     derivation.spans[place].end = at;
   }
 
-  // Any range is as likely as any other, so that rare scripts occur.
+  // All ranges are equally likely, so that rare scripts occur.
   char32_t drawFrom(const Element& set) {
     const CharacterRange& range = cypherGrammar.ranges[set.first + nextBelow(set.count)];
     const std::size_t width = range.last - range.first + 1;

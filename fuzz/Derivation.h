@@ -5,21 +5,21 @@
 #include <string>
 #include <vector>
 
-/// A text derived from the grammar, and how.
+/// A text derived from the grammar, and the choices that led to it.
 ///
-/// The choices are bytes: the first one says whether a query or an expression is derived, and each
-/// place of the grammar that leaves a choice takes one or more. When they run out, or the rules
-/// nest too deeply, the shortest way out is taken. Whatever the bytes are, there is a derivation.
+/// The choices are bytes. The first one tells whether a query or an expression is derived. Each
+/// place of the grammar with a choice takes one byte or more. If the bytes run out or the rules
+/// nest too deeply, the derivation ends by the shortest way. So any bytes give a derivation.
 ///
-/// The choices of a rule stand side by side, so replacing that span by another one of the same rule
-/// replaces that part of the text only.
+/// The choices of a rule stand side by side. So replacing this span by another one of the same rule
+/// changes only that part of the text.
 struct Derivation {
   struct Token {
     std::size_t type;
     std::string text;  // UTF-8
   };
 
-  /// The choices from `begin` to `end` made what one rule stands for.
+  /// The choices from `begin` to `end` derived the text of one rule.
   struct Span {
     std::uint32_t rule;
     std::size_t begin;
@@ -29,7 +29,7 @@ struct Derivation {
   bool isQuery;
   std::vector<Token> tokens;
   std::vector<Span> spans;
-  /// How many choices were needed. What is left of the bytes may serve another purpose.
+  /// How many bytes were needed. The others may serve another purpose.
   std::size_t used;
 };
 

@@ -1,4 +1,4 @@
-// Changes a derivation rule by rule, where libFuzzer itself would change bytes.
+// Changes a derivation by whole rules; libFuzzer itself would change single bytes.
 
 #include <algorithm>
 #include <random>
@@ -31,7 +31,7 @@ Bytes replaced(const Bytes& bytes, const Derivation::Span& span, const Bytes& re
   return result;
 }
 
-/// The choices of some span of this rule; none if there is no such span.
+// The choices of some span of this rule; empty if there is no such span.
 Bytes otherChoices(const Bytes& bytes, std::uint32_t rule, Random& random) {
   std::vector<Derivation::Span> same;
   for (const Derivation::Span& span : derive(bytes.data(), bytes.size()).spans) {

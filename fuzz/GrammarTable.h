@@ -20,7 +20,7 @@ struct Element {
   std::uint32_t first;   ///< of its links, or of its ranges
   std::uint32_t count;   ///< of its links, or of its ranges
   std::uint32_t number;  ///< of the rule or token
-  /// How many rules the shortest way out opens, one inside the other.
+  /// How many rules the shortest derivation of this element nests.
   std::uint32_t height;
 };
 

@@ -1,4 +1,5 @@
-// Texts that the grammar gives must be taken; damaged ones must keep every property.
+// The library must accept texts that are derived from the grammar, and keep every property for
+// damaged ones.
 
 #include <ANTLRInputStream.h>
 #include <CommonTokenStream.h>
@@ -25,8 +26,8 @@ std::string textOf(const Tokens& tokens) {
   return text;
 }
 
-/// Whether the lexer finds the very tokens. It does not where two run into one another, or where a
-/// name is written like a keyword.
+// Whether the lexer finds exactly these tokens. It does not if two of them run together, or if a
+// name is written like a keyword.
 bool readAs(const Tokens& tokens, const std::string& text) {
   antlr4::ANTLRInputStream input(text);
   vorn::CypherLexer lexer(&input);
@@ -41,7 +42,7 @@ bool readAs(const Tokens& tokens, const std::string& text) {
                     });
 }
 
-/// Takes away, copies or swaps tokens, as the bytes say.
+// Removes, copies or swaps tokens. The bytes choose.
 void damage(Tokens& tokens, std::string_view bytes) {
   constexpr std::size_t bytesPerEdit = 3;
   constexpr std::size_t mostTokens = 1000;
@@ -67,7 +68,7 @@ void damage(Tokens& tokens, std::string_view bytes) {
 
 }  // namespace
 
-/// The input is the choices of a derivation, and what is left of it the damage.
+// The input is the choices of a derivation. The bytes that are left over choose the damage.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   Derivation derivation = derive(data, size);
   const std::string text = textOf(derivation.tokens);

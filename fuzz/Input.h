@@ -13,8 +13,8 @@ inline std::string_view bytesOf(const std::uint8_t* data, std::size_t size) {
   return {reinterpret_cast<const char*>(data), size};
 }
 
-/// UTF-16 from what a fuzzer made up. A byte that is no UTF-8 becomes an unpaired surrogate, so
-/// that text which is not well formed occurs too.
+/// UTF-16 from the bytes of a fuzzer. A byte that is no UTF-8 becomes an unpaired surrogate, so
+/// that ill-formed text occurs too.
 inline vorn::WideString wideFrom(std::string_view bytes) {
   constexpr vorn::WideChar loneSurrogate = 0xDC00;
   vorn::WideString text;

@@ -1,4 +1,4 @@
-// The parser under test and the bare pipeline must say the same of a text, be it a query or a
+// The parser under test and the bare pipeline must agree on a text, taken as a query and as a
 // filter.
 
 #include <utf8.h>
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The bare pipeline knows no bound, and recurses.
+// The bare pipeline recurses without any bound.
 bool nestsDeeply(std::string_view text) {
   constexpr std::ptrdiff_t most = 100;
   return std::count_if(text.begin(), text.end(),
@@ -29,7 +29,7 @@ void check(std::string_view text, compare::Entry entry) {
 
 }  // namespace
 
-/// The input is the text.
+// The input is the text.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text = bytesOf(data, size);
   if (!utf8::is_valid(text.begin(), text.end())) {

@@ -56,7 +56,8 @@ bool isWellFormed(const WideString& text) {
   return true;
 }
 
-/// The rule of names once more, and on UTF-16: a name that begins with a back quote is quoted.
+// The rule of names written a second time, on UTF-16: a name that begins with a back quote counts
+// as quoted.
 WideString quoted(const WideString& name) {
   if (!name.empty() && name.front() == backQuote) {
     return name;
@@ -68,7 +69,7 @@ WideString quoted(const WideString& name) {
   return result + backQuote;
 }
 
-/// Whether it is one name: back quotes around it, and those inside doubled.
+// Whether this is a single quoted name, with the back quotes inside it doubled.
 bool isQuotedName(const WideString& name) {
   if (name.size() < 2 || name.front() != backQuote || name.back() != backQuote) {
     return false;
@@ -92,7 +93,7 @@ bool isProduced(CypherType type) {
          type == CypherType::NodeOrRelationship;
 }
 
-/// How a call ended. Too deep stands apart: where it begins depends on the stack, not on the text.
+// How a call ended. `tooDeep` is apart, since it depends on the stack and not on the text alone.
 enum class Ending { answered, forbidden, refused, tooDeep };
 
 template <typename Answer>
@@ -135,7 +136,7 @@ bool sameUsages(const Usages& left, const Usages& right) {
       });
 }
 
-/// The filter's text is read, in one of the forms in which it may stand there.
+// Requires that the filter's text holds the name in one of its forms.
 void requireName(const WideString& name, const WideString& text) {
   require(isQuotedName(name), "a reported name is back-quoted");
   require(holds(text, name) || holds(text, name.substr(1, name.size() - 2)),
@@ -162,7 +163,7 @@ void requireUsagesStandIn(const Usages& usages, const WideString& text) {
   }
 }
 
-/// The usages after a renaming, all of whose new names are well formed.
+// The usages after a renaming in which all new names are well formed.
 Usages expectedAfter(const Usages& before, const Renames& quotedRenames) {
   Usages after;
   for (const auto& [name, usage] : before) {
@@ -179,7 +180,7 @@ Usages expectedAfter(const Usages& before, const Renames& quotedRenames) {
   return after;
 }
 
-/// The renames as they count: of two old names for one variable the later one wins.
+// The renames that take effect: of two old names for one variable the later one wins.
 Renames quotedRenamesOf(const Renames& renames) {
   Renames result;
   for (const auto& [oldName, newName] : renames) {
@@ -194,7 +195,7 @@ bool areWellFormed(const Renames& renames) {
   });
 }
 
-/// A name, back-quoted, that does not stand in the text.
+// A back-quoted name that does not stand in the text.
 WideString nameAbsentFrom(const WideString& text) {
   WideString name = wide("`absent`");
   while (holds(text, name)) {
@@ -203,7 +204,7 @@ WideString nameAbsentFrom(const WideString& text) {
   return name;
 }
 
-/// Every variable of `usages` by another name, all of them absent from `text`.
+// Renames every variable of `usages` to a name that is not in `text`.
 Renames renamesAway(const Usages& usages, const WideString& text) {
   WideString all = text;
   Renames renames;
@@ -230,7 +231,7 @@ void requireUsages(const WideString& text, const Usages& expected, const char* p
           property);
 }
 
-/// All variables are renamed, and back: nothing but the written forms changes.
+// Renames all variables and renames them back: only the written forms may change.
 void checkRenamingThereAndBack(const WideString& text, const Usages& usages) {
   const Renames there = renamesAway(usages, text);
   const Outcome<WideString> away = renamed(text, there);
@@ -248,7 +249,7 @@ void checkRenamingThereAndBack(const WideString& text, const Usages& usages) {
   }
 }
 
-/// What both functions take in of the text, and what they say if it is none.
+// The part of the text that both functions take for the expression, or how they refuse it.
 Outcome<WideString> takenIn(const WideString& expression) {
   Outcome<WideString> taken = renamed(expression, {});
   require(taken.ending != Ending::forbidden, "renaming forbids no element");
@@ -340,7 +341,7 @@ void checkRenaming(const WideString& expression, const Renames& renames) {
     }
   }
   require(touched || result.answer == taken.answer, "names that do not occur change nothing");
-  // A new name that brings its own back quotes is not checked, and may be no name.
+  // The library does not check a new name with back quotes of its own, so it may be no name.
   if (unchecked.empty()) {
     requireUsages(result.answer, expectedAfter(before.answer, counted),
                   "a renaming changes the usages by the names only");

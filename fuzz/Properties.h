@@ -4,23 +4,24 @@
 
 #include "vorn/vorn.h"
 
-/// What holds for the three functions whatever text they are given. A property that does not hold
-/// is printed, and ends the process.
+/// Properties of the three functions that hold for every text. A property that does not hold is
+/// printed and ends the process.
 
 using Renames = std::unordered_map<vorn::WideString, vorn::WideString>;
 
-/// Ends the process, after saying what does not hold, unless `holds`.
+/// Prints the property and ends the process unless `holds`.
 void require(bool holds, const char* property);
 
-/// GetOutputNamesAndTypes: the status, the host's vector, names from the text, possible kinds.
+/// Checks GetOutputNamesAndTypes: the status, the host's vector, names from the text, possible
+/// types.
 void checkColumns(const vorn::WideString& query);
 
-/// Usages against the text, and against what renaming makes of it.
+/// Checks the usages against the text and against its renamings.
 void checkUsages(const vorn::WideString& expression);
 
-/// A renaming against the usages before and after it.
+/// Checks a renaming against the usages before and after it.
 void checkRenaming(const vorn::WideString& expression, const Renames& renames);
 
-/// The function takes the whole text.
+/// Requires that the text is accepted as a query.
 void checkIsQuery(const vorn::WideString& query);
 void checkIsExpression(const vorn::WideString& expression);

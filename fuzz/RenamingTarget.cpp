@@ -5,7 +5,8 @@
 
 namespace {
 
-/// What stands before the separator, which is taken away with it. No UTF-8 has this byte.
+// Takes away and returns the bytes before the separator, and drops the separator. No UTF-8 has that
+// byte.
 std::string_view takePart(std::string_view& bytes) {
   const std::size_t end = bytes.find('\xFF');
   const std::string_view part = bytes.substr(0, end);
@@ -15,7 +16,7 @@ std::string_view takePart(std::string_view& bytes) {
 
 }  // namespace
 
-/// The input is a property filter followed by old and new names in turn.
+// The input is a property filter followed by old and new names in turn.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::string_view bytes = bytesOf(data, size);
   const vorn::WideString expression = wideFrom(takePart(bytes));

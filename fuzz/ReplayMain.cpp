@@ -14,7 +14,7 @@ namespace {
 void replay(const std::filesystem::path& file) {
   std::ifstream in(file, std::ios::binary);
   const std::vector<char> bytes{std::istreambuf_iterator<char>(in), {}};
-  // Seen only if the process ends here: a test that passes shows nothing.
+  // CTest shows this only if the test fails, and then the last name is that of the input.
   std::cout << file.string() << std::endl;
   LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
 }

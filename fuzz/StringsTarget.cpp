@@ -1,4 +1,5 @@
-// Any sequence of operations on String, BString and StringArray, beside the same on standard types.
+// Runs any sequence of operations on String, BString and StringArray, and the same on standard
+// types.
 
 #include <algorithm>
 #include <array>
@@ -38,7 +39,7 @@ class Bytes {
     return byte % bound;
   }
 
-  /// A few UTF-16 code units; ASCII letters, zeros, halves of characters.
+  // A few UTF-16 code units; ASCII letters, zeros, halves of characters.
   WideString nextText() {
     constexpr std::array<vorn::WideChar, 8> units = {'a', 'b', 'A', 'Z', 0, 0xD83D, 0xDE00, 0x416};
     WideString text(nextBelow(8), 0);
@@ -58,12 +59,12 @@ class Bytes {
 
 int sign(int number) { return static_cast<int>(number > 0) - static_cast<int>(number < 0); }
 
-/// As comparisons read it: up to the first zero.
+// The part of a text that comparisons read.
 WideString upToZero(const WideString& text) {
   return text.c_str();  // NOLINT(readability-redundant-string-cstr): that is where it ends
 }
 
-/// Strings beside what they should hold. Nothing stands for one whose buffer was taken away.
+// Strings and their expected texts. No text is expected of a String whose buffer was taken away.
 class Strings {
  public:
   void step(Bytes& bytes) {
@@ -188,7 +189,7 @@ class Strings {
                                                                  WideString()};
 };
 
-/// BStrings beside what they should hold. Nothing stands for null.
+// BStrings and their expected texts. No text is expected of null.
 class BStrings {
  public:
   void step(Bytes& bytes, const Strings& strings) {
@@ -284,7 +285,7 @@ class BStrings {
 
 }  // namespace
 
-/// The input is the operations, with what they need.
+// The input chooses the operations and their arguments.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   Bytes bytes(bytesOf(data, size));
   Strings strings;

@@ -1,4 +1,4 @@
-"""The grammar in the form that text is derived from.
+"""The grammar in a form from which text can be derived.
 
 An expression is a tuple whose first member is its kind:
 
@@ -7,8 +7,8 @@ An expression is a tuple whose first member is its kind:
     ("rule", name)                  ("token", name, expression)
     ("set", [(first, last)...])     ("text", string)
 
-Parser rules refer to rules and tokens. Inside a token there are characters only. A set holds the
-code points from each `first` to its `last`.
+Parser rules refer to rules and tokens. A token has characters only. A set holds the code points from
+each `first` to its `last`.
 """
 
 import sys
@@ -45,7 +45,7 @@ class DerivableGrammar(Grammar):
         return ("token", name, self._characters(expression))
 
     def _characters(self, expression: tuple) -> tuple:
-        """The expression with the lexer rules put in that it refers to."""
+        """The expression with lexer rules in place of the references to them."""
         kind = expression[0]
         if kind == "name":
             return self._characters(self.lexer_rules[expression[1]])
@@ -54,7 +54,7 @@ class DerivableGrammar(Grammar):
         if kind == "sequence":
             return (kind, [self._characters(part) for part in expression[1]])
         if kind == "choice":
-            # A token that ends with the text cannot be written before more text.
+            # The alternative that ends with the text is left out: more text may follow.
             return choice_of([self._characters(part) for part in expression[1] if part != END])
         if kind in ("optional", "star", "plus"):
             return (kind, self._characters(expression[1]))
@@ -69,7 +69,7 @@ def choice_of(alternatives: list) -> tuple:
 
 
 def ranges_of(expression: tuple) -> list:
-    """The characters that an expression stands for, or none if it is more than a single one."""
+    """The characters that an expression stands for, or none if it is not a single character."""
     if expression[0] == "text" and len(expression[1]) == 1:
         return [(ord(expression[1]), ord(expression[1]))]
     return expression[1] if expression[0] == "set" else []

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes what a fuzzer should know of the language, in libFuzzer's format.
+"""Writes the words of the language as a dictionary in libFuzzer's format.
 
 write_dictionary.py OUTPUT
 """
@@ -9,7 +9,7 @@ from pathlib import Path
 
 from derivable_grammar import DerivableGrammar
 
-# What the grammar has no literal for and yet changes the meaning of what follows.
+# The grammar has no literals for these, but they change the meaning of the text behind them.
 DELIMITERS = ["`", "'", '"', "\\", "/*", "*/", "//", "\n", "0x", "0o", "1e-", ".5", "`a``b`", "\\u0041"]
 
 

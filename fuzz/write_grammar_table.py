@@ -21,7 +21,7 @@ class Table:
         self.links = []
         self.ranges = []
         self._known = {}
-        # A rule that contains itself must have a place before its inside is written.
+        # A rule that contains itself needs a place before its body is written.
         for name in grammar.rules:
             self._known[repr(("rule", name))] = len(self.elements)
             self.elements.append(None)
