@@ -12,7 +12,7 @@ using vorn::WideString;
 
 namespace {
 
-// Damages a text in one place: characters are lost, doubled, swapped or put in.
+// Damages a text in one place: removes, doubles, swaps or inserts characters.
 std::string damaged(std::string text) {
   const auto at = *rc::gen::inRange<std::size_t>(0, text.size());
   const auto length = *rc::gen::inRange<std::size_t>(1, 6);

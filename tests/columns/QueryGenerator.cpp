@@ -15,7 +15,8 @@ struct Name {
   std::string meant;
 };
 
-// What each name means is written out, so that the expected columns owe nothing to the library.
+// The meaning of each name is written out, so that the expected columns do not depend on the
+// library.
 const std::vector<Name>& names() {
   static const std::vector<Name> all = {
       {"n", "n"},

@@ -9,7 +9,7 @@
 
 /// A query together with the columns it has by construction.
 struct GeneratedQuery {
-  /// With gaps, see support/Gaps.h, and with aliasMark for each alias of the last projection.
+  /// Has gaps (see support/Gaps.h) and an aliasMark for each alias of the last projection.
   std::string text;
   Columns columns;
   /// The aliases of the last projection, as written, and the indices of the columns they name.

@@ -101,7 +101,7 @@ TEST(Projection, DoesNotChangeTheScopeInAReturn) {
   EXPECT_EQ(analyse("MATCH (n) RETURN n AS m UNION RETURN n"), answered({{"n", node}}));
 }
 
-// The walk reaches a projection inside an expression after the one around it.
+// The walk reaches the inner projection after the outer one.
 TEST(Projection, InsideAnExistentialSubqueryReplacesTheColumnsAroundIt) {
   EXPECT_EQ(analyse("MATCH (n) RETURN n, EXISTS { MATCH (m) RETURN m AS inner }"),
             answered({{"inner", node}}));

@@ -64,7 +64,8 @@ TEST(Union, LeavesNamesOfEarlierBranchesInScope) {
 }
 
 TEST(Union, ComparesEachStarAsItsBranchHasIt) {
-  // What is bound behind a star, as in its ORDER BY, is in the next branch's star only.
+  // A variable that is bound behind a star, as in its ORDER BY, belongs to the next branch's star
+  // only.
   EXPECT_EQ(analyse("MATCH (a) RETURN * ORDER BY EXISTS { (z) } UNION RETURN * "
                     "UNION MATCH ()-[z]->() RETURN *"),
             answered({{"a", node}, {"z", nodeOrRelationship}}));
@@ -82,7 +83,7 @@ TEST(Union, OfBranchesThatUpdateHasNoColumns) {
 }
 
 TEST(Union, InsideAnExistentialSubqueryCountsAsABranch) {
-  // The branch that is saved is the inner one, which the walk has just left.
+  // The walk has just left the inner branch, so that one is merged.
   EXPECT_EQ(analyse("MATCH (n) WHERE EXISTS { MATCH (a) RETURN a UNION MATCH ()-[b]-() RETURN b } "
                     "RETURN n"),
             answered({{"n", node}}));

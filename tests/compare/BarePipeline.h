@@ -23,10 +23,10 @@ class FirstErrorEnds : public antlr4::BaseErrorListener {
                                 std::size_t line, std::size_t column, const std::string& message,
                                 std::exception_ptr cause) override;
 
-  bool atEnd = false;  // of the text
+  bool atEnd = false;  // the first error is the end of the text
 };
 
-/// The recognisers over one text.
+/// The generated recognisers with the plain runtime, over one text.
 struct BarePipeline {
   explicit BarePipeline(std::string_view utf8);
 
@@ -36,7 +36,7 @@ struct BarePipeline {
   antlr4::CommonTokenStream tokens;
   vorn::CypherParser parser;
   std::shared_ptr<ReferenceTables> tables;
-  antlr4::ParserRuleContext* tree = nullptr;  // the parser's
+  antlr4::ParserRuleContext* tree = nullptr;  // owned by the parser; null before run()
 
   void run(Entry entry);
 };

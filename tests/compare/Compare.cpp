@@ -2,7 +2,7 @@
 //
 //   compare [--texts N] [--seed S] [--long] [FILE_OR_FOLDER...]
 //
-// Exit status 1 if anything differs, or if the texts leave out an alternative of the grammar.
+// Exits with status 1 if anything differs, or if the texts leave out an alternative of the grammar.
 
 #include <sys/mman.h>
 #include <sys/wait.h>
@@ -29,9 +29,9 @@ namespace {
 using namespace compare;
 
 constexpr std::size_t processes = 2;
-/// With fewer texts not every alternative comes up.
+// Fewer texts do not take every alternative.
 constexpr std::uint64_t textsThatCover = 100'000;
-/// Without the white space two keywords are one name.
+// Alternatives that no text can take: without white space two keywords would be one name.
 constexpr std::string_view impossible[] = {
     "oC_Union, decision 7, alternative 2",
     "oC_Union, decision 8, alternative 2",
@@ -62,7 +62,7 @@ Options optionsFrom(const std::vector<std::string_view>& arguments) {
   return options;
 }
 
-/// Zeroed memory that this process shares with those it starts.
+// Zeroed memory that this process shares with the processes it starts.
 Report* sharedReports() {
   void* const memory = mmap(nullptr, processes * sizeof(Report), PROT_READ | PROT_WRITE,
                             MAP_SHARED | MAP_ANONYMOUS, -1, 0);
@@ -72,7 +72,7 @@ Report* sharedReports() {
   return static_cast<Report*>(memory);
 }
 
-/// Processes do not wait for one another at the prediction tables, as threads would.
+// Starts processes, not threads: threads would wait for each other at the prediction cache.
 void runAll(const Options& options, Report* reports) {
   std::vector<pid_t> children;
   for (std::size_t share = 0; share < processes; ++share) {
@@ -158,7 +158,7 @@ void printPairs(const Report* reports) {
       chains(templates, Templates::Kind::Expression, 3));
 }
 
-/// Whether accepted texts have taken every alternative.
+// Whether accepted texts have taken every alternative.
 bool printCoverage(const Report* reports) {
   const Coverage coverage;
   std::size_t taken = 0;
@@ -200,7 +200,7 @@ void printSlowest(const Report* reports) {
               slow.slowest);
 }
 
-/// How many texts differ, or end the process that looks at them.
+// Prints the differences and returns how many texts differ or crash their process.
 std::uint64_t printDifferences(const Report* reports) {
   std::uint64_t differences = 0;
   for (std::size_t share = 0; share < processes; ++share) {

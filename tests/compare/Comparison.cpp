@@ -97,7 +97,7 @@ bool same(const Renamed& one, const Renamed& other) {
   return one.ending == other.ending && one.message == other.message && one.text == other.text;
 }
 
-/// Says what the two sides say, unless it is the same.
+// Describes the answers of the two sides unless they are equal.
 template <typename Answer>
 std::string difference(const char* what, const Answer& expected, const Answer& found) {
   if (same(expected, found)) {
@@ -118,7 +118,7 @@ Columns columnsOf(const WideString& query) {
   return answer;
 }
 
-/// Calls a function and keeps how it ends.
+// Calls a function and stores how it ends.
 template <typename Answer, typename Call>
 Answer endingOf(Call call) {
   Answer answer;

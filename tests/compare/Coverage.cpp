@@ -19,7 +19,7 @@ using antlr4::atn::ATNStateType;
 
 constexpr std::size_t leave = 2;  // the alternative of a loop that ends it
 
-/// How many rounds of which loop a context has made.
+// How many rounds each loop has made in a context; the key has the number of the loop.
 using Rounds = std::map<std::pair<const antlr4::ParserRuleContext*, std::size_t>, std::size_t>;
 
 }  // namespace
@@ -75,7 +75,7 @@ class Coverage::Recorder {
     return atn.getDecisionState(decision)->getStateType() == ATNStateType::PLUS_LOOP_BACK;
   }
 
-  // Where there is one way only, nothing is decided.
+  // A decision with a single way has no slots.
   [[nodiscard]] std::size_t slotsOf(std::size_t decision) const {
     const std::size_t ways = atn.getDecisionState(decision)->transitions.size();
     return ways < 2 ? 0 : isStar(decision) ? 3 : ways;
@@ -84,7 +84,7 @@ class Coverage::Recorder {
   std::vector<std::size_t> first;
 };
 
-/// Tells the recorder of each decision.
+// Tells the recorder of each decision.
 class Coverage::Simulator final : public antlr4::atn::ParserATNSimulator {
  public:
   Simulator(antlr4::Parser& itsParser, ReferenceTables& tables, Recorder& itsRecorder)

@@ -10,8 +10,8 @@
 
 namespace compare {
 
-/// Counts which alternatives of the grammar's decisions accepted texts have taken. A loop counts as
-/// left at once, after one round and after more.
+/// Counts how often accepted texts have taken each alternative of the grammar's decisions. For a
+/// loop it counts no round, one round and several rounds.
 class Coverage {
  public:
   Coverage();
@@ -19,10 +19,10 @@ class Coverage {
   Coverage(const Coverage&) = delete;
   Coverage& operator=(const Coverage&) = delete;
 
-  /// Parses the text once more, by the runtime's interpreter of the grammar's network.
+  /// Parses the text again, with the runtime's interpreter of the grammar's network.
   void add(std::string_view accepted, Entry entry);
 
-  /// A number for each alternative.
+  /// By alternative: how often it was taken.
   [[nodiscard]] const std::vector<std::uint32_t>& counts() const;
   [[nodiscard]] std::string nameOf(std::size_t alternative) const;
 

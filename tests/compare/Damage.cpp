@@ -21,7 +21,7 @@ Pieces piecesOf(std::string_view text, const std::vector<Token>& tokens) {
 
 bool isBlank(const std::string& piece) { return piece.find_first_not_of(" \t\n\r") == piece.npos; }
 
-// Between two characters.
+// Draws a place between two characters.
 std::size_t drawPlace(std::string_view text, Random& random) {
   std::size_t place = random.below(text.size() + 1);
   while (place < text.size() && utf8::internal::is_trail(text[place])) {

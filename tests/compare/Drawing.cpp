@@ -42,7 +42,8 @@ bool isChoiceOfTokens(const Element& element) {
   return true;
 }
 
-// The many ways to write a dash, a name or a key make prediction slow and teach little.
+// Usually the same token is drawn for a dash, a name or a key: the many others slow prediction and
+// show little.
 std::size_t usualToken(const Element& choice) {
   for (std::size_t i = 0; i < choice.count; ++i) {
     if (isToken(linked(choice, i), Lexer::UnescapedSymbolicName)) {
@@ -127,7 +128,7 @@ std::uint32_t Drawing::distance(const Element& element) const {
   return (*distances)[indexOf(element)];
 }
 
-// One of those nearest to the goal.
+// Draws one of the links that are nearest to the goal.
 std::size_t Drawing::nearest(const Element& element) {
   std::size_t best = 0;
   std::size_t equal = 1;
@@ -190,7 +191,7 @@ void Drawing::walk(const Element& element, Mode mode) {
   }
 }
 
-// One element leads to the goal, the others are free.
+// One element of the sequence leads to the goal, the others are free.
 void Drawing::walkSequence(const Element& sequence, Mode mode) {
   const std::size_t leading = mode == Mode::Towards ? nearest(sequence) : 0;
   for (std::size_t i = 0; i < sequence.count; ++i) {
@@ -256,7 +257,7 @@ std::size_t Drawing::drawAlternative(const Element& choice) {
   return uses[choice.first + other] < uses[choice.first + chosen] ? other : chosen;
 }
 
-// Rarely any: otherwise the levels of an expression would multiply.
+// Rarely draws a round, since the levels of an expression would multiply otherwise.
 std::size_t Drawing::drawRounds(Mode mode) {
   constexpr std::size_t chances = 12;
   if (mode == Mode::AtTheGoal) {
@@ -269,7 +270,7 @@ std::size_t Drawing::drawRounds(Mode mode) {
   return rounds;
 }
 
-// Two words that stand side by side are set apart, which the grammar allows nearly everywhere.
+// Puts a blank between two words, which the grammar allows nearly everywhere.
 void Drawing::addToken(const Element& token) {
   std::string text = textOf(token);
   if (!pieces.empty() && !text.empty() && !pieces.back().empty() &&

@@ -14,14 +14,14 @@ using Pieces = std::vector<std::string>;
 
 std::string joined(const Pieces& pieces);
 
-/// Draws texts from the grammar. Most texts lead to one rule by the shortest way and there try
-/// every way equally often, so that they stay small and leave nothing out. Names are few, so that
-/// most texts are accepted and their variables meet.
+/// Draws texts from the grammar. Most texts lead to one rule by the shortest way and take all ways
+/// there equally often. So they stay small and leave nothing out. There are few names, so that
+/// texts use the same variable more than once.
 class Drawing {
  public:
   explicit Drawing(Random& itsRandom);
 
-  /// The tokens of a text, in UTF-8. When there is no more room the shortest way out is taken.
+  /// The tokens of a text, in UTF-8. After `room` tokens the text ends by the shortest way.
   Pieces draw(Entry entry, std::size_t room);
 
   /// One token of any kind.
@@ -33,9 +33,9 @@ class Drawing {
  private:
   /// How the choices of an element are made.
   enum class Mode {
-    Towards,    // so that they lead to the goal
-    AtTheGoal,  // each as often as any other
-    Free,       // what has been chosen less often sooner, and nothing large where room is short
+    Towards,    // by the shortest way to the goal
+    AtTheGoal,  // all equally often
+    Free,       // rarely used ones more often; nothing large where little room is left
   };
 
   using Distances = std::vector<std::uint32_t>;  // by element
@@ -62,15 +62,15 @@ class Drawing {
 
   Random& random;
   std::size_t mostPieces = 0;
-  std::size_t depth = 0;
+  std::size_t depth = 0;  // in rules
   Pieces pieces;
-  const Element* goal = nullptr;
-  const Distances* distances = nullptr;
-  std::vector<std::uint32_t> uses;                  // of each link
-  std::vector<std::vector<std::uint32_t>> parents;  // of each element
+  const Element* goal = nullptr;                    // null where there is none
+  const Distances* distances = nullptr;             // to the goal; owned by `known`
+  std::vector<std::uint32_t> uses;                  // by link
+  std::vector<std::vector<std::uint32_t>> parents;  // by element
   std::vector<bool> seen;
   std::vector<const Element*> rules;
-  std::vector<Distances> known;  // of each rule
+  std::vector<Distances> known;  // by rule
   std::vector<const Element*> tokens;
   std::vector<char32_t> edges;
 };

@@ -8,7 +8,7 @@
 
 namespace compare {
 
-/// A few pieces side by side that the lexer could cut at the wrong place.
+/// Some pieces side by side, between which the lexer might divide the text wrongly.
 std::string drawLexerText(Drawing& drawing, Random& random);
 
 /// UTF-16 with an unpaired surrogate in it.

@@ -5,7 +5,7 @@
 
 namespace compare {
 
-/// Drawn numbers that are the same on every platform.
+/// Random numbers that are the same on every platform.
 class Random {
  public:
   explicit Random(std::uint64_t seed) : state(seed) {}

@@ -58,7 +58,7 @@ void collect(antlr4::ParserRuleContext& context, std::vector<Node>& nodes) {
   }
 }
 
-// Of each code point behind a byte order mark.
+// The offset of each code point, apart from a byte order mark at the start.
 std::vector<std::uint32_t> byteOffsets(std::string_view utf8) {
   constexpr std::string_view mark = "\xEF\xBB\xBF";
   std::vector<std::uint32_t> offsets;
@@ -96,7 +96,7 @@ void Reference::lex(std::string_view utf8) {
     pipeline->tokens.fill();
     found.lexed = true;
   } catch (const antlr4::ParseCancellationException&) {
-    // The parser must meet the error where it reads that far.
+    // The parser gets a new pipeline, since it must meet the error only if it reads that far.
     pipeline = std::make_unique<Pipeline>(utf8);
     return;
   }
@@ -109,7 +109,7 @@ void Reference::lex(std::string_view utf8) {
 }
 
 void Reference::readTree(Entry entry) {
-  // White space behind an expression belongs to none.
+  // White space behind an expression is not in the tree.
   std::size_t end = pipeline->tree->getStop()->getTokenIndex() + 1;
   if (end + 1 == found.tokens.size() && found.tokens[end].type == vorn::CypherParser::SP) {
     ++end;

@@ -9,12 +9,12 @@
 
 namespace compare {
 
-/// What the bare pipeline makes of a text: the generated recognisers and the runtime's own token
-/// stream, prediction and walker, with the first error fatal. All texts of a process share one set
-/// of prediction tables, so one thread at a time may use it.
+/// The answers of the bare pipeline to a text: the generated recognisers and the runtime's own
+/// token stream, prediction and walker, with the first error fatal. All texts of a process share
+/// one prediction cache, so only one thread at a time may use this class.
 class Reference {
  public:
-  /// The text is well-formed UTF-8 and outlives this.
+  /// The text must be well-formed UTF-8 and outlive the object.
   Reference(std::string_view utf8, Entry entry);
   ~Reference();
   Reference(const Reference&) = delete;
@@ -22,11 +22,11 @@ class Reference {
 
   [[nodiscard]] const Parse& parse() const { return found; }
 
-  /// "line L:C " and the runtime's message, or nothing if there is no error. A filter has none
-  /// either if its expression ends before the text does.
+  /// "line L:C " and the runtime's message; empty if there is no error. Text behind a complete
+  /// expression is no error of a filter.
   [[nodiscard]] const std::string& error() const { return firstError; }
 
-  /// Whether more text may put right what is wrong: the first error is the end of the text.
+  /// Whether the text may be right with more text behind it: its end is the first error.
   [[nodiscard]] bool mayContinue() const { return errorAtEnd; }
 
   [[nodiscard]] Columns columns() const;

@@ -75,7 +75,7 @@ class ColumnsListener : public vorn::CypherBaseListener {
     columns.clear();
     if (ctx->children.front()->getText() == "*" &&
         dynamic_cast<antlr4::tree::TerminalNode*>(ctx->children.front()) != nullptr) {
-      // A map's order is that of the names.
+      // The map orders by name.
       scope = variables;
       for (const auto& [name, type] : variables) {
         columns.push_back({name, type});
@@ -144,7 +144,7 @@ class ColumnsListener : public vorn::CypherBaseListener {
       columns.push_back({alias, type});
       return;
     }
-    // A bound variable of unknown kind passes a WITH only under an alias, be it its own name.
+    // A variable of unknown type passes a WITH only under an alias, even if that is its own name.
     if (type != CypherType::Unknown) {
       scope[text] = type;
     }
@@ -157,7 +157,7 @@ class ColumnsListener : public vorn::CypherBaseListener {
   std::vector<std::vector<Column>> branches;
 };
 
-/// Ends the walk at the first element that has no place in a filter.
+// Ends the walk at the first element that a filter must not hold.
 struct Forbidden : std::logic_error {
   using std::logic_error::logic_error;
 };

@@ -10,12 +10,13 @@
 
 namespace compare {
 
-/// Prediction tables for all texts of a process that can be begun anew: the recognisers' own only
-/// grow.
+/// A prediction cache for all texts of a process. Unlike the recognisers' own cache, which only
+/// grows, it can be replaced by an empty one.
 struct ReferenceTables {
   explicit ReferenceTables(const antlr4::atn::ATN& atn);
 
-  /// To be asked for once a text. Whoever still uses the tables before keeps them.
+  /// The current cache. To be called once for each text, since a large cache is replaced then.
+  /// Earlier callers keep the cache that they have.
   static std::shared_ptr<ReferenceTables> current(const antlr4::atn::ATN& atn);
 
   [[nodiscard]] std::size_t size() const;

@@ -38,23 +38,23 @@ struct Counts {
   std::uint64_t microseconds;
 };
 
-/// What one process tells the one that started it. It lies in memory that both share, so that it is
-/// there even if the process crashes.
+/// The results of one process for the process that started it. Both share this memory, so the
+/// results remain even if the process crashes.
 struct Report {
   static constexpr std::size_t mostAlternatives = 2048;
   static constexpr std::size_t mostPairs = 1U << 16U;
   static constexpr std::size_t mostText = 1U << 16U;
 
   Counts counts[sourceCount];
-  std::uint32_t taken[mostAlternatives];  // alternatives of the grammar, by accepted texts
-  bool met[mostPairs];                    // constructs, in accepted texts
-  std::size_t longestSequences[32];       // of each alphabet
-  bool allSequences[32];                  // there are no longer ones
+  std::uint32_t taken[mostAlternatives];  // by alternative: how many accepted texts have taken it
+  bool met[mostPairs];                    // by pair of constructs: whether an accepted text has it
+  std::size_t longestSequences[32];       // by alphabet
+  bool allSequences[32];                  // by alphabet: whether there are no longer ones
   std::uint64_t differences;
   std::uint64_t slowestMicroseconds;
   bool finished;
   char slowest[mostText];
-  char current[mostText];  // the text that is looked at
+  char current[mostText];  // the text that is compared now
   char shown[mostText];    // the first differences
 };
 

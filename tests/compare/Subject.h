@@ -11,14 +11,14 @@ enum class Entry { Query, Filter };
 
 struct Token {
   std::uint32_t type;
-  std::uint32_t start;  // the byte of the text at which it begins, a byte order mark counted
+  std::uint32_t start;  // byte offset in the text; a byte order mark counts
 
   friend bool operator==(const Token& left, const Token& right) {
     return left.type == right.type && left.start == right.start;
   }
 };
 
-/// A node of the flat tree. The nodes stand in text order, an outer one before those inside it.
+/// A node of the flat tree. Nodes stand in the order of the text, outer nodes before inner ones.
 struct Node {
   std::uint32_t rule;   // the index in the grammar, CypherParser::RuleOC_...
   std::uint32_t first;  // tokens
@@ -31,15 +31,15 @@ struct Node {
   }
 };
 
-/// What a parser makes of a text.
+/// The result of parsing a text.
 struct Parse {
-  bool lexed = false;         // the lexer gets to the end
-  std::vector<Token> tokens;  // if it does: all but the end of the text
-  bool accepted = false;      // the tree holds every token, but for white space behind a filter
-  std::vector<Node> nodes;    // if it does
+  bool lexed = false;         // the lexer has come to the end of the text
+  std::vector<Token> tokens;  // if `lexed`: all tokens, without the end of the text
+  bool accepted = false;      // the tree holds every token, except white space behind a filter
+  std::vector<Node> nodes;    // if `accepted`
 };
 
-/// The parser under test. The text is well-formed UTF-8.
+/// Parses with the parser under test. The text must be well-formed UTF-8.
 Parse parseCompiled(std::string_view utf8, Entry entry);
 
 }  // namespace compare

@@ -6,8 +6,7 @@ namespace compare {
 
 namespace {
 
-// @Q, @E, @P and @L are the holes. The first template of each kind is what stands in a hole that no
-// other one fills.
+// @Q, @E, @P and @L are the holes. The first template of each kind is the plain filling.
 constexpr const char* queries[] = {
     "RETURN 1",
     "RETURN @E",

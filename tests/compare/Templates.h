@@ -9,12 +9,12 @@
 
 namespace compare {
 
-/// Texts in which the constructs meet that three tokens cannot tell apart: one inside the other or
-/// directly behind it, to a depth of four. Each construct is a template with holes, and each text a
-/// chain of them: one hole is filled by the next template, the others by something plain.
+/// Texts that combine the constructs that three tokens cannot tell apart: one inside the other or
+/// directly behind it, to a depth of four. Each construct is a template with holes. Each text is a
+/// chain of templates: the next template fills one hole, and the other holes get a plain filling.
 class Templates {
  public:
-  /// What a text stands for. Each kind of hole takes templates of its own.
+  /// The kind of a text. Each kind of hole takes templates of the same kind.
   enum class Kind : std::uint8_t { Query, Expression, Path, Link };
 
   /// The longest chains.
@@ -22,19 +22,19 @@ class Templates {
 
   struct Text {
     std::string text;
-    std::vector<std::size_t> pairs;  // the numbers of the meetings in it
+    std::vector<std::size_t> pairs;  // the numbers of the pairs in it
   };
 
   Templates();
 
-  /// How many chains there are of this many templates, and one of them.
+  /// How many chains of `depth` templates there are, and one of them.
   [[nodiscard]] std::uint64_t count(Kind kind, std::size_t depth) const;
   [[nodiscard]] Text chain(Kind kind, std::size_t depth, std::uint64_t number) const;
 
   /// A text in which every hole may hold a template.
   [[nodiscard]] std::string tree(Kind kind, std::size_t depth, Random& random) const;
 
-  /// A meeting is a hole of a template and the template that fills it.
+  /// A pair is a hole of a template and the template that fills it.
   [[nodiscard]] std::size_t pairCount() const { return firstPairs.back(); }
   [[nodiscard]] std::string nameOf(std::size_t pair) const;
 
@@ -63,7 +63,7 @@ class Templates {
   std::vector<Template> templates[kindCount];
   std::vector<Hole> holes;
   std::vector<std::string> holeNames;
-  std::vector<std::size_t> firstPairs;           // of each hole, and the end
+  std::vector<std::size_t> firstPairs;           // by hole, and then the number of all pairs
   std::vector<std::uint64_t> counts[kindCount];  // by depth
 };
 

@@ -27,7 +27,7 @@ void store(std::string_view text, char (&place)[size]) {
   place[count] = '\0';
 }
 
-// Prediction takes long for large texts, so they are few.
+// Large texts are few, since prediction takes long for them.
 std::size_t drawRoom(Random& random) { return 2 + random.below(random.oneIn(16) ? 50 : 10); }
 
 static_assert(CLOCKS_PER_SEC == 1'000'000, "the processor's time is in microseconds");
@@ -178,7 +178,7 @@ void Worker::compareDrawn() {
   const Entry entry = random.oneIn(2) ? Entry::Query : Entry::Filter;
   const std::string text = joined(drawing.draw(entry, drawRoom(random)));
   Verdict verdict = check(Source::Drawn, text, entry);
-  // To find out what a text covers takes as long as to compare it.
+  // Finding out what a text covers takes as long as comparing it, so later it is done less often.
   if (verdict.accepted && (done < allCovered || random.oneIn(8))) {
     coverage.add(text, entry);
   }
@@ -210,7 +210,7 @@ void Worker::compareConstructs() {
   }
 }
 
-// What is right as an expression is so in a query too, but what may follow it there is more.
+// An expression is also compared inside a query, where other text may follow it.
 void Worker::compareChain(Templates::Kind kind, std::size_t depth, std::uint64_t number) {
   const bool isQuery = kind == Templates::Kind::Query;
   const Templates::Text chain = templates.chain(kind, depth, number);

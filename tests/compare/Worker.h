@@ -20,7 +20,7 @@ namespace compare {
 struct Options {
   std::uint64_t texts = 200'000;
   std::uint64_t seed = 1;
-  bool everything = false;  // all chains of three constructs and every character
+  bool everything = false;  // also all chains of three constructs and every character
   std::vector<std::filesystem::path> files;
 };
 
@@ -29,7 +29,7 @@ class Worker {
  public:
   Worker(const Options& itsOptions, std::size_t itsShare, std::size_t itsShares, Report& itsReport);
 
-  /// Until the share is done or enough differs.
+  /// Runs until the share is done or enough texts differ.
   void run();
 
  private:
@@ -67,7 +67,7 @@ class Worker {
   Drawing drawing;
   Templates templates;
   Coverage coverage;
-  std::deque<Accepted> accepted;  // the latest ones
+  std::deque<Accepted> accepted;  // the latest accepted texts, to be damaged
   std::vector<Sequences> sequences;
   std::size_t nextAlphabet = 0;
   std::size_t chainKind = 0;  // the next chain

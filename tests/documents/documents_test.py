@@ -1,21 +1,21 @@
 #!/usr/bin/env python3
-"""Everything that the documents show works as it stands there.
+"""All code and all examples in the documents work as they are written.
 
     documents_test.py SOURCE_FOLDER BUILD_FOLDER COMPILER [--recipes]
 
-The blocks of a document are worked off in order, in a copy of the sources of its own:
+The blocks of a document are run in order. Each document has its own copy of the sources:
 
     cpp      a program: written into the file that its first line names, or else compiled and run
     cmake    written into the file that its first line names
     diff     applied to the copy
-    sh       run, in one shell; of `make` and `ctest` only that they know what they are to do
-    text     after a block of commands, what they print; elsewhere a picture
-    console  commands behind a $, each with what it prints
+    sh       run, in one shell; `make` and `ctest` only show what they would do
+    text     after a block of commands, their output; elsewhere a picture
+    console  commands behind a $, each with its output
 
-Tables of examples are checked too; the class Examples knows them by the titles of their columns.
+Tables of examples are checked too. The class Examples recognises them by the titles of their columns.
 
-The commands of docs/recipes.md change the sources and build them anew. They are run with --recipes
-only, and then `make` and `ctest` really do it.
+The commands of docs/recipes.md change the sources and build them again. They run only with --recipes,
+and then `make` and `ctest` really run.
 """
 
 import json
@@ -39,7 +39,7 @@ DOCUMENTS = sorted([*SOURCE.glob("*.md"), *SOURCE.glob("docs/*.md")])
 # Blocks that are tested elsewhere, or are no commands.
 OTHER_LANGUAGES = {"exports", "mermaid"}
 
-# What runs everything is only asked what it would run: this test is a part of it.
+# Commands that run all tests only show what they would run, since this test is one of them.
 SHOW_ONLY = f"""
 make() {{ command make -C '{SOURCE}' -n "$@" >/dev/null; }}
 ctest() {{ command ctest -N "$@" | grep -q '^  Test *#'; }}
@@ -54,7 +54,7 @@ def copy_sources(folder: pathlib.Path) -> None:
 
 
 class Scratch:
-    """A copy of the sources in which the blocks of one document are worked off."""
+    """A copy of the sources in which the blocks of one document run."""
 
     def __init__(self, folder: pathlib.Path) -> None:
         self.folder = folder / "VornLib"
@@ -76,7 +76,7 @@ class Scratch:
             text=True,
             encoding="utf-8",
         )
-        # What a terminal would show, as far as the order of the two does not matter.
+        # Like a terminal, except that the order of the two may differ.
         output = result.stdout + result.stderr
         assert result.returncode == 0, f"{commands}\n{output}"
         return output
@@ -97,7 +97,7 @@ class Scratch:
         self.write(re.match(r"# (\S+)\n", text)[1], text)
 
     def run_fragment(self, text: str) -> None:
-        """Compiles statements as a program of their own, and runs it."""
+        """Compiles statements to a program and runs it."""
         includes = "".join(re.findall(r"(?m)^#include.*\n", text))
         statements = re.sub(r"(?m)^#include.*\n", "", text)
         (self.folder / "fragment.cpp").write_text(
@@ -132,7 +132,7 @@ class Blocks(unittest.TestCase):
                     output = self.work_off_block(block, scratch, output)
 
     def work_off_block(self, block: Block, scratch: Scratch, output: Any) -> Any:
-        """Returns what the block printed if what it should print is to follow."""
+        """Runs the block. Returns its output if the expected output follows in the next block."""
         if block.language == "sh":
             return scratch.run(block.text)
         if block.language == "console":
@@ -227,7 +227,7 @@ def unquoted(name: str) -> str:
 
 
 def usages_of(expression: str) -> list[str]:
-    """Each access, spelled as the text that it comes from."""
+    """Each access, written as in the text of a filter."""
     (answer,) = answers("usages", [{"expression": expression}])
     return [
         ".".join(map(unquoted, [usage["name"], *access["propertyPath"]]))

@@ -25,7 +25,7 @@ class Document:
     def __init__(self, path: pathlib.Path) -> None:
         self.path = path
         self.text = path.read_text(encoding="utf-8")
-        # The same lines without what stands in blocks.
+        # The same lines, with the blocks empty.
         self.prose = FENCE.sub(lambda match: "\n" * match[0].count("\n"), self.text)
 
     def blocks(self) -> list[Block]:
@@ -35,7 +35,7 @@ class Document:
         ]
 
     def rows(self) -> list[Row]:
-        """The rows of all tables, their cells by the titles of the columns."""
+        """The rows of all tables, as cells by the title of the column."""
         rows = []
         titles: list[str] = []
         for number, line in enumerate(self.prose.splitlines(), 1):
@@ -55,7 +55,7 @@ class Document:
         return LINK.findall(self.prose)
 
     def anchors(self) -> set[str]:
-        """What links to the headings of this document end in."""
+        """The ends of links to the headings of this document."""
         titles = re.findall(r"(?m)^#+ (.*)$", self.prose)
         return {re.sub(r"[^\w\- ]", "", title.lower()).replace(" ", "-") for title in titles}
 

@@ -1,4 +1,4 @@
-"""VornLib.dll exports what is documented, needs what every Windows has, and is laid out at random.
+"""VornLib.dll exports what is documented, needs only what every Windows has, and allows a random layout.
 
     dll_properties_test.py OBJDUMP CXXFILT LIBRARY DOCUMENT COMPILER_RUNTIME
 
@@ -30,7 +30,7 @@ HEADERS = output_of(OBJDUMP, "--private-headers", LIBRARY)
 
 
 def exported_names() -> set[str]:
-    """Demangled; a constructor or destructor has two symbols of one name."""
+    """The exported names, demangled. A constructor or destructor has two symbols with the same name."""
     table = HEADERS.split("[Ordinal/Name Pointer] Table")[1].split("\n\n")[0]
     mangled = re.findall(r"^\s*\[\s*\d+\].* (\S+)$", table, re.MULTILINE)
     return set(output_of(CXXFILT, given="\n".join(mangled)).splitlines())
@@ -63,7 +63,7 @@ class Dll(unittest.TestCase):
     def test_is_loaded_at_random_addresses_and_does_not_execute_data(self) -> None:
         for property in ["DYNAMIC_BASE", "HIGH_ENTROPY_VA", "NX_COMPAT"]:
             self.assertRegex(HEADERS, rf"(?m)^\s+{property}$")
-        # Without relocations it could not be moved.
+        # Without relocations the DLL could not be moved.
         self.assertNotRegex(HEADERS, r"(?m)^\s+relocations stripped$")
         self.assertRegex(HEADERS, r"(?m)^Entry 5 [0-9a-f]+ (?!00000000)\S+ Base Relocation")
 

@@ -48,7 +48,7 @@ class ExportedSymbols(unittest.TestCase):
         self.assertEqual(sorted(names), sorted(EXPORTED_FUNCTIONS))
 
     def test_are_the_documented_members_besides(self) -> None:
-        # A constructor or destructor has two symbols of one name.
+        # A constructor or destructor has two symbols with the same name.
         members = {name for name in exported_names() if not name.startswith("vorn::")}
         self.assertEqual(sorted(members), sorted(documented_members()))
 

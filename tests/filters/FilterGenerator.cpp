@@ -4,8 +4,8 @@
 
 namespace {
 
-// A name as it may be written, and its back-quoted form, spelled out so that what is expected owes
-// nothing to the library.
+// A name as it may be written, and its back-quoted form. Both are written out, so that expected
+// usages do not depend on the library.
 struct Name {
   std::string written;
   std::string quoted;
@@ -40,8 +40,8 @@ Name drawSchemaName() {
 
 int drawInt(int below) { return *rc::gen::inRange(0, below); }
 
-// Writes an expression that is complete in itself wherever it is put; a minus sign is never drawn,
-// because between parentheses it can read like a pattern.
+// Writes expressions that are complete wherever they are put. It never draws a minus sign, which
+// between parentheses can look like a pattern.
 class FilterWriter {
  public:
   GeneratedFilter write(bool withForbidden) {

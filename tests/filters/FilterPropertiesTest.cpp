@@ -9,7 +9,7 @@ namespace {
 
 const std::string absent = "`absent`";
 
-// One of the variables of a filter that has some, by its back-quoted name.
+// Draws the back-quoted name of one of the filter's variables. The filter must have some.
 std::string drawVariableOf(const GeneratedFilter& filter) {
   std::vector<std::string> names;
   for (const auto& entry : filter.usages) {
@@ -23,7 +23,7 @@ rc::Gen<GeneratedFilter> genFilterWithVariables() {
                            [](const GeneratedFilter& filter) { return !filter.usages.empty(); });
 }
 
-// Text that cannot go on with an expression, whatever stands before it.
+// Draws text that can never continue an expression.
 std::string drawTrailingText() {
   return *rc::gen::element<std::string>(")", " )", " RETURN n", ";", "}", " n.x", " 1", ",n",
                                         " | x", "]", " WHERE n.x", " $n");

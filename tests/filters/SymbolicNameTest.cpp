@@ -12,8 +12,8 @@ std::string genName() {
   return *rc::gen::container<std::string>(rc::gen::element('`', '`', 'a', ' ', '\0', '\xC3', '\\'));
 }
 
-// The rule one back quote at a time: each is erased from the text, and the one after a closing
-// quote decides whether the name goes on.
+// Unquotes one back quote at a time. Each is erased; if another one follows a closing quote, the
+// name goes on.
 std::string unquotedStepByStep(std::string text) {
   bool escaped = false;
   std::size_t position = 0;

@@ -10,7 +10,7 @@ TEST(Validation, RejectsAListComprehension) {
   EXPECT_EQ(failureOfUsages("[x IN n.list WHERE x > 1]"), forbidden("OC_ListComprehension"));
 }
 
-// A list literal stands before a comprehension in the grammar and wins where a text is both.
+// In the grammar a list literal stands before a comprehension, so it wins if a text is both.
 TEST(Validation, TakesAListOfOneMembershipTestForAList) {
   EXPECT_EQ(failureOfUsages("[x IN n.list]"), (Failure{Failure::Kind::none, ""}));
 }

@@ -1,4 +1,4 @@
-// The ANTLR pipeline beside one of the bare runtime.
+// Compares the ANTLR pipeline with one of the plain runtime.
 
 #include <Lexer.h>
 #include <ProxyErrorListener.h>
@@ -17,7 +17,7 @@ using vorn::AntlrPipeline;
 
 namespace {
 
-// A token knows the lexer that it comes from.
+// The lexer that a tree's tokens come from.
 antlr4::Lexer& lexerOf(const antlr4::ParserRuleContext& tree) {
   return dynamic_cast<antlr4::Lexer&>(*tree.start->getTokenSource());
 }
@@ -39,8 +39,8 @@ TEST(AntlrPipeline, SharesTheStaticDataOfTheLexer) {
   EXPECT_EQ(itsLexer.getSerializedATN().data(), otherLexer.getSerializedATN().data());
 }
 
-// The runtime calls listeners in the order of their addresses. So one that prints could hide behind
-// the one that throws, and shows itself when that one is taken away.
+// The runtime calls listeners in the order of their addresses. So a listener that prints might
+// never be called behind the one that throws, unless that one is removed.
 TEST(AntlrPipeline, ReportsToTheSharedListenerOnly) {
   AntlrPipeline pipeline("n.a");
   antlr4::Lexer& lexer = lexerOf(pipeline.parseExpression());
@@ -108,7 +108,7 @@ TEST(AntlrPipeline, WordsErrorsAsTheBareRuntimeDoes) {
   }
 }
 
-// What prediction has found out in one place it may use in another.
+// Prediction may use the results of one place in another.
 TEST(AntlrPipeline, PredictsAsTheBareRuntimeInEachPlaceOfALongText) {
   for (const char* piece : {"(a)-[b]-(c) AND ", "[x IN a] + ", "any(x IN a) OR ", "(a).b = "}) {
     const std::string text = repeated(piece, 20) + "[x IN ";

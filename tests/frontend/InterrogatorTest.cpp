@@ -40,7 +40,7 @@ TEST(Interrogators, ParseInTheirConstructor) {
                antlr4::ParseCancellationException);
 }
 
-// What the conversion of the text throws, before any parsing, is no syntax error.
+// Expects that the conversion of the text throws, before any parsing, and throws no syntax error.
 template <typename Interrogator>
 bool failsToConvert(const vorn::WideString& text) {
   try {
@@ -127,7 +127,7 @@ TEST(Interrogators, WorkOnManyThreadsFromTheFirstCallOn) {
   EXPECT_EQ(columns, std::vector<std::size_t>(8, 80));
 }
 
-// Asks on several threads at the same time for the message of what an interrogator throws.
+// Gets the messages of the exceptions that interrogators throw on several threads at the same time.
 template <typename Interrogator>
 std::vector<std::string> messagesOnManyThreads(const vorn::WideString& text) {
   std::vector<std::string> messages(8);

@@ -1,4 +1,4 @@
-// The conversions between UTF-16 and UTF-8, compared with those of utf8cpp, which know no shortcut
+// Compares the conversions between UTF-16 and UTF-8 with those of utf8cpp, which have no shortcut
 // for ASCII.
 
 #include <gtest/gtest.h>

@@ -10,7 +10,8 @@
 
 namespace {
 
-// The library's queries are refused without a message, but filters are worded by the same pipeline.
+// The library refuses queries without a message, but the messages for filters come from the same
+// pipeline.
 std::string messageOf(std::string_view query) { return syntaxErrorOfQuery(query); }
 
 // "line L:C " of the message.
@@ -45,7 +46,7 @@ TEST(SyntaxErrors, CountCodePointsInTheLineOfTheError) {
   EXPECT_EQ(placeOf("RETURN 'e\u0301' ?"), "line 1:12 ");
 }
 
-// A lone carriage return is a character like any other of its line.
+// A lone carriage return does not end a line.
 TEST(SyntaxErrors, CountLineFeedsAsEndsOfLines) {
   EXPECT_EQ(placeOf("\r\r?"), "line 1:2 ");
   EXPECT_EQ(placeOf("\n\r?"), "line 2:1 ");

@@ -9,12 +9,12 @@
 
 namespace {
 
-// Lexes many short texts with one lexer, which makes it bearable to try every character.
+// Lexes many short texts with one lexer, so that trying every character is fast enough.
 class NameLexer {
  public:
   NameLexer() { lexer.removeErrorListeners(); }
 
-  // The text stands behind a blank, as U+FEFF at the very beginning is no part of a text.
+  // The text stands behind a blank, since U+FEFF at the start is a byte order mark.
   bool isName(const std::string& utf8) {
     input.load(" " + utf8, false);
     lexer.setInputStream(&input);
@@ -39,7 +39,7 @@ std::size_t countCharacters(const Test& test) {
   return count;
 }
 
-// ID_Start has 136,345 characters and Pc, which it does not meet, 10.
+// ID_Start has 136,345 characters. Pc has 10 others.
 TEST(IdentifierCharacters, ThatBeginANameAreThoseOfUnicode15) {
   NameLexer lexer;
   EXPECT_EQ(
@@ -47,7 +47,7 @@ TEST(IdentifierCharacters, ThatBeginANameAreThoseOfUnicode15) {
       136345U + 10U);
 }
 
-// ID_Continue has 139,482 characters, among them those of Pc; Sc, which it does not meet, has 63.
+// ID_Continue has 139,482 characters, including those of Pc. Sc has 63 others.
 TEST(IdentifierCharacters, ThatContinueANameAreThoseOfUnicode15) {
   NameLexer lexer;
   EXPECT_EQ(countCharacters([&lexer](const std::string& next) { return lexer.isName("z" + next); }),

@@ -71,7 +71,7 @@ std::string inDrawnCase(std::string word) {
   return word;
 }
 
-// Each run tries all keywords: drawing one would leave most mixtures of most of them out.
+// Each run tries all keywords: drawing one of them would leave out most mixtures of cases.
 RC_GTEST_PROP(Keywords, InAnyMixtureOfCasesAreTheKeyword, ()) {
   for (const auto& keyword : keywords()) {
     const std::string word = inDrawnCase(keyword.second);
@@ -168,7 +168,7 @@ TEST(Names, FollowUnicode15) {
   EXPECT_FALSE(startsAName(0x1ECB0));
 }
 
-// A fragment's set is what the one set transition of its rule matches.
+// The set of a fragment is in the only set transition of its rule.
 SetSize sizeOfFragment(const std::string& name) {
   const Pipeline pipeline("");
   const auto& names = pipeline.lexer.getRuleNames();
@@ -273,7 +273,7 @@ TEST(Strings, HoldThirteenEscapesAndTwoKindsOfCodePoints) {
   }
 }
 
-// Without a listener that throws, the lexer leaves out what it cannot read and goes on behind it.
+// Without a listener that throws, the lexer skips the text that it cannot read.
 TEST(Strings, WithAWrongEscapeAreReportedUpToItAndReadOnBehindIt) {
   struct Collector : antlr4::BaseErrorListener {
     void syntaxError(antlr4::Recognizer* /*recognizer*/, antlr4::Token* /*symbol*/,

@@ -13,7 +13,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-// The order of the virtual operations can only be seen where they are declared.
+// Reads the header, since only the declarations show the order of the virtual operations.
 Names declaredOperations() {
   std::ifstream file(VORN_LISTENER_HEADER);
   const std::string header((std::istreambuf_iterator<char>(file)),
@@ -42,8 +42,9 @@ TEST(ListenerInterface, HasAnEnterAndAnExitForEachRuleInRuleOrder) {
 // The operations differ in their names, which only a macro can put together.
 // NOLINTBEGIN(cppcoreguidelines-macro-usage)
 
-// A pointer to a member function is of the class that declares it. So these compile only if each
-// operation is declared anew, the listener's for the rules and the base listener's for all.
+// The type of a pointer to a member function names the class that declares the function. So these
+// lines compile only if the listener declares the operations of all rules, and the base listener
+// declares all operations again.
 #define RULE(Name)                                                                              \
   static_assert(                                                                                \
       std::is_same_v<decltype(&vorn::CypherListener::enterOC_##Name),                           \

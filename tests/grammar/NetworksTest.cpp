@@ -4,8 +4,8 @@
 
 namespace {
 
-// Reads the serialized form as far as the number of character or token sets: version, grammar type,
-// greatest token type, then the lists that stand before the sets.
+// Reads the serialized form up to the number of sets: version, grammar type, greatest token type,
+// then the lists that stand before the sets.
 class SerializedNetwork {
  public:
   explicit SerializedNetwork(antlr4::atn::SerializedATNView values)
@@ -69,7 +69,7 @@ TEST(ParserNetwork, HasTheSizeOfTheGrammar) {
   EXPECT_EQ(SerializedNetwork(pipeline.parser.getSerializedATN()).getSets(), 10);
 }
 
-// What the parse depends on is the text alone: no code of a rule and no precedence has a say.
+// The parse depends on the text alone, not on code in the rules or on precedences.
 TEST(ParserNetwork, HasNoPredicatesActionsOrLeftRecursion) {
   const Pipeline pipeline("");
   for (const antlr4::atn::ATNState* state : pipeline.parser.getATN().states) {

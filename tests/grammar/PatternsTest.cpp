@@ -132,7 +132,7 @@ TEST(RelationshipPatterns, KeepTheirSymbolsApartInTheTree) {
   EXPECT_EQ(tree.texts<CypherParser::OC_RightArrowHeadContext>(), std::vector<std::string>{"＞"});
 }
 
-// The token for less-or-equal or for two full stops would swallow the symbol.
+// The tokens <> and <= take the arrow head and the character behind it.
 TEST(RelationshipPatterns, AreNotReadAcrossLongerTokens) {
   EXPECT_FALSE(acceptsPattern("(a)<>(b)"));
   EXPECT_FALSE(acceptsPattern("(a)<=-(b)"));

@@ -17,7 +17,7 @@ def numbers_of_network(source: str) -> list[int]:
 
 
 def lists_of_names(source: str) -> list[list[str]]:
-    """Rules, modes, literals and symbols: what stands in braces before the network."""
+    """Rules, modes, literals and symbols, which stand in braces before the network."""
     tables = source[source.index("std::make_unique<") : source.index("serializedATNSegment[]")]
     return [re.findall(r'"(?:\\.|[^"\\])*"', block) for block in re.findall(r"std::vector<std::string>\{(.*?)\n? *\}", tables, re.DOTALL)]
 

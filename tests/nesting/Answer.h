@@ -5,7 +5,7 @@
 #include "Shapes.h"
 #include "vorn/vorn.h"
 
-/// What a host gets for a text that nests.
+/// The answer to a text that nests.
 enum class Answer { None, Right, Wrong, TooDeep };
 
 inline Answer answerFor(const vorn::WideString& text) {

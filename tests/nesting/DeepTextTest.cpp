@@ -1,4 +1,4 @@
-// How deep a text may nest on a given stack, and what becomes of one that nests deeper.
+// Tests how deeply a text may nest on a given stack, and that deeper texts are refused.
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -37,7 +37,7 @@ class NestedText : public testing::TestWithParam<Shape> {
     });
   }
 
-  // However close to its end the stack gets.
+  // Expects an answer at every depth, also near the end of the stack.
   static void expectAnAnswerAtEveryDepth(std::size_t stack, std::size_t atLeast) {
     onStackOf(stack, [&] {
       std::size_t levels = 0;
@@ -150,7 +150,7 @@ TEST(NestedPatternElements, AreRefusedInAQueryToo) {
   });
 }
 
-// A run of openings from any shapes, of which some are closed again.
+// Draws openings of any shapes and closes some of them.
 WideString mixture() {
   const std::vector<Shape> shapes = allShapes();
   const auto count = *rc::gen::inRange<std::size_t>(1, 120);

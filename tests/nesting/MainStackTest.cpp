@@ -1,5 +1,5 @@
-// The stack of the main thread, whose size the kernel does not tell by a call. Each test asks in a
-// process of its own, whose main thread is the one that asks.
+// Tests the stack of the main thread, whose size no system call tells. Each test asks on the main
+// thread of a process of its own.
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -30,7 +30,7 @@ void setSoftLimit(decltype(RLIMIT_STACK) resource, rlim_t value) {
 
 void setStack(std::size_t bytes) { setSoftLimit(RLIMIT_STACK, bytes); }
 
-// Not even one more can be opened, be it a file of /proc.
+// After this no file can be opened, not even one in /proc.
 void leaveNoFileDescriptor() {
   setSoftLimit(RLIMIT_NOFILE, 0);
   if (::dup(STDERR_FILENO) >= 0) {
@@ -76,7 +76,7 @@ const std::string onEightMebibytes =
 const std::string onOneMebibyte =
     "right, right, too deep, too deep, line 1:, line 1:, too deep, too deep, ";
 
-// Environment and arguments take some of the stack, and so does this program.
+// Environment, arguments and this program take some of the stack.
 constexpr std::size_t roomForOthers = 64 * kibibyte;
 constexpr std::size_t oneMebibyteLeft = mebibyte + roomForOthers;
 constexpr std::size_t eightMebibytesLeft = 8 * mebibyte + roomForOthers;
@@ -168,7 +168,7 @@ TEST(MainStack, IsNotOverrunByAnyShape) {
   }
 }
 
-// Other threads have stacks of their own, which the limit of the main one says nothing about.
+// Other threads have stacks of their own, to which the limit of the main stack does not apply.
 TEST(StackOfAThread, IsUsedTheSameWithNoFileDescriptorLeft) {
   EXPECT_EQ(inChildProcess([] {
               leaveNoFileDescriptor();

@@ -1,4 +1,4 @@
-// The limit for texts that the compiled parser does not take, asked without parsing any.
+// Tests the limit for texts that the compiled parser does not take, without parsing them.
 
 #include <gtest/gtest.h>
 
@@ -16,8 +16,8 @@
 
 namespace {
 
-// Runs `work` with that much more of the stack in use. Must not be inlined: the limit depends on
-// where a function's frame begins.
+// Runs `work` with this many more bytes of the stack in use. It must not be inlined: the limit
+// depends on where its frame begins.
 [[gnu::noinline]] void below(std::size_t bytes, const std::function<void()>& work) {
   auto* used = static_cast<char*>(__builtin_alloca(bytes));
   std::memset(used, 1, bytes);
@@ -37,7 +37,7 @@ namespace {
 
 bool refusesLevels(std::size_t levels) { return refuses(std::string(levels, '(')); }
 
-// How many levels fit what is left of the stack.
+// How many levels fit the rest of the stack.
 std::size_t fittingLevels() {
   std::size_t fitting = 0;
   for (std::size_t step = 4096; step > 0; step /= 2) {
@@ -73,15 +73,15 @@ TEST(NestingLimit, CountsWhatIsLeftOfTheStack) {
 
 TEST(NestingLimit, RefusesATextWithoutLevelsWhereThereIsNoRoom) {
   onStackOf(256 * kibibyte, [] {
-    // The C library may hand out a larger stack than was asked for.
+    // The C library may give a thread a larger stack than requested.
     const std::size_t size = vorn::stackPosition() - vorn::stackEnd(vorn::stackPosition());
     below(size - 36 * kibibyte, [] { EXPECT_FALSE(refuses("a")); });
     below(size - 31 * kibibyte, [] { EXPECT_TRUE(refuses("a")); });
   });
 }
 
-// Expects that each repetition of the text leaves so many levels open, and that inside the last one
-// no more than `inside` are open.
+// Expects that each repetition of the text leaves `levels` levels open, and that at most `inside`
+// levels are open inside the last one.
 void expectLevels(const std::string& text, std::size_t levels, std::size_t inside = 0) {
   onStackOf(2 * mebibyte, [&] {
     const std::size_t times = (fittingLevels() - std::max(levels, inside)) / levels + 1;
@@ -150,7 +150,7 @@ TEST(NestingLimit, TakesACaseBehindAFullStopForAName) {
   expectLevels("[a..CASE WHEN ", 2);
 }
 
-// Elsewhere it may take one for a level, but for no longer than the bracket around it is open.
+// Elsewhere a name CASE may count as a level, but only until the bracket around it closes.
 TEST(NestingLimit, ForgetsANameCaseWithItsBracket) {
   expectNoLevelToStayOpen("(a:CASE) + ");
   expectNoLevelToStayOpen("(a:CASE:CASE) + ");

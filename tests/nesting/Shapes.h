@@ -30,7 +30,7 @@ struct Shape {
   }
 };
 
-/// The one in which most rules lie between a bracket and the next.
+/// The shape with the most rules between a bracket and the next.
 constexpr Shape mostRules{
     "MostRules", "EXISTS { RETURN 1 UNION MERGE (a) ON CREATE SET a.b = a = a IN ", "}", "a"};
 
@@ -38,7 +38,7 @@ constexpr Shape relationshipProperties{"RelationshipProperties", "()-[a {b: ", "
 
 constexpr Shape subscriptsOfCalls{"SubscriptsOfCalls", "a[f(", ")]", "1"};
 
-/// The parser knows from up to three tokens which of these begins.
+/// Shapes that the parser recognises by up to three tokens.
 inline std::vector<Shape> plainShapes() {
   return {
       {"Parentheses", "(", ")", "a"},
@@ -61,7 +61,7 @@ inline std::vector<Shape> plainShapes() {
   };
 }
 
-/// Here it learns only behind all that is nested inside which alternative it is.
+/// Shapes whose alternative the parser knows only behind everything that is nested inside.
 inline std::vector<Shape> lookaheadShapes() {
   return {
       {"Subscripts", "a[", "]", "1"},
@@ -78,7 +78,7 @@ inline std::vector<Shape> lookaheadShapes() {
   };
 }
 
-/// Here two brackets are opened at a time.
+/// Shapes that open two brackets at a time.
 inline std::vector<Shape> twoBracketShapes() {
   return {
       subscriptsOfCalls,

@@ -9,7 +9,7 @@
 constexpr std::size_t kibibyte = 1024;
 constexpr std::size_t mebibyte = 1024 * kibibyte;
 
-/// Runs `work` on a thread with a stack of that many bytes and hands on what it throws.
+/// Runs `work` on a thread with a stack of that many bytes and rethrows its exception.
 template <typename Work>
 void onStackOf(std::size_t bytes, Work work) {
   struct Call {

@@ -1,4 +1,4 @@
-// Stacks of which the platform tells nothing or little, and stacks that are nearly used up.
+// Tests stacks that the platform knows little of, and stacks that are nearly used up.
 
 #include <alloca.h>
 #include <gtest/gtest.h>
@@ -26,14 +26,14 @@ Answer answerBelow(std::size_t usedBytes, const WideString& text) {
   return *used == 1 ? answer : Answer::Wrong;
 }
 
-// makecontext passes its function numbers only.
+// These are global, since makecontext passes only numbers to its function.
 // NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables)
 WideString contextText;
 std::size_t contextUse = 0;
 Answer contextAnswer{Answer::None};
 // NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
-// The call is made with so many bytes of the stack in use.
+// Makes the call with `usedBytes` bytes of the stack in use.
 Answer answerOnContextStack(std::size_t bytes, const WideString& text, std::size_t usedBytes = 0) {
   std::vector<char> stack(bytes);
   ucontext_t here{};
@@ -45,7 +45,7 @@ Answer answerOnContextStack(std::size_t bytes, const WideString& text, std::size
   contextText = text;
   contextUse = usedBytes;
   contextAnswer = Answer::None;
-  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the number of arguments, none, is its last.
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the last argument says that none follow.
   makecontext(
       &there, [] { contextAnswer = answerBelow(contextUse, contextText); }, 0);
   swapcontext(&here, &there);
@@ -120,7 +120,7 @@ TEST(StackOfASignalHandler, IsNotOverrunWithinTheThreadsOwn) {
   });
 }
 
-// The answers of a text with less and less of the stack left, in kibibytes.
+// The answers to a text as less and less of the stack is left.
 std::vector<Answer> answersWithLessAndLess(const WideString& text) {
   std::vector<Answer> answers;
   for (std::size_t left = 120; left >= VORN_LEAST_KIBIBYTES; left -= 4) {

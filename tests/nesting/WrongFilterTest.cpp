@@ -1,4 +1,4 @@
-// How deep a wrong filter may nest and still be told what is wrong with it.
+// Tests how deeply a wrong filter may nest and still get a message of its error.
 
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ using vorn::WideString;
 // As include/vorn/vorn.h promises.
 constexpr std::size_t levelsInAMebibyte = 250;
 
-// What the library says of a wrong filter, or why it does not tell what is wrong.
+// Refusals that do not tell what is wrong with a filter.
 const std::string tooDeep = "the openCypher text nests too deeply for the stack";
 const std::string tooLong = "the openCypher text takes too long to be understood";
 
@@ -39,7 +39,7 @@ bool tellsThePlace(const std::string& message) { return message.rfind("line 1:",
 
 bool isRefusal(const std::string& message) { return message == tooDeep || message == tooLong; }
 
-// The shape around a text that is wrong but for what stands around it.
+// The shape with a wrong text, `core`, in its innermost level.
 Shape around(const Shape& shape, const char* core) {
   return {shape.name, shape.open, shape.close, core, shape.before, shape.after};
 }
@@ -87,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(InPlainBrackets, WrongFilter,
 
 class WrongText : public testing::TestWithParam<Shape> {};
 
-// To tell what is missing, the runtime recurses over all open rules once more.
+// To list the expected tokens, the runtime recurses over all open rules a second time.
 TEST_P(WrongText, IsRefusedOrToldWhatIsWrongAtEveryDepth) {
   const Shape shape = around(GetParam(), "{a 1}");
   onStackOf(128 * kibibyte, [&] {
@@ -122,7 +122,7 @@ TEST_P(WrongText, IsRefusedIfItNestsTooDeeplyToBeTold) {
 INSTANTIATE_TEST_SUITE_P(Any, WrongText, testing::ValuesIn(allShapes()),
                          testing::PrintToStringParamName());
 
-// Prediction in the middle of a bracket that does not close reads all that follows.
+// Inside a bracket that does not close, prediction reads to the end of the text.
 TEST(WrongFilterOfManyOperators, IsToldWhatIsWrongOrRefusedByALengthError) {
   const auto filter = [](std::size_t operators) {
     return wide("[x IN " + repeated("(a) + ", operators) + "?");
@@ -141,7 +141,7 @@ TEST(WrongFilterOfManyOperators, IsToldWhatIsWrongWhereNoBracketIsOpen) {
   }
 }
 
-// Expects that the text, many times over in front of an error, is not taken for nesting.
+// Expects that repeating the text in front of an error does not count as nesting.
 void expectNoNesting(const std::string& piece) {
   const std::string text = repeated(piece, 300) + "a ?";
   const WideString filter = wide(text);

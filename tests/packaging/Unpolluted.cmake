@@ -1,4 +1,4 @@
-# An outer build that embeds the library gets its target, and neither settings nor tests nor programs.
+# Fails if an outer build that embeds the library gets more than its target: settings, tests or programs.
 foreach(variable IN ITEMS CMAKE_CXX_STANDARD CMAKE_CXX_EXTENSIONS CMAKE_CXX_VISIBILITY_PRESET
     CMAKE_VISIBILITY_INLINES_HIDDEN CMAKE_POSITION_INDEPENDENT_CODE CMAKE_MODULE_PATH
     CMAKE_EXPORT_COMPILE_COMMANDS CMAKE_COMPILE_WARNING_AS_ERROR BUILD_SHARED_LIBS)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Hosts that build the library as part of their own build, and static libraries.
+"""Hosts can build the library as part of their own build, and link it statically.
 
 Every test compiles the ANTLR runtime, so this takes minutes and has a make target of its own.
 """

@@ -1,4 +1,4 @@
-"""Hosts that know the installed files only build and run, wherever the installation has been moved to.
+"""Hosts that have only the installed files can be built and run, even after the installation was moved.
 
     installed_test.py BUILD_FOLDER INSTALLED_FOLDER COMPILER VERSION
 """
@@ -26,7 +26,7 @@ def install_and_move() -> None:
 
 
 def next_of(place: int) -> str:
-    """The version that is one higher in this place."""
+    """The version with this number raised by one."""
     numbers = [int(number) for number in VERSION.split(".")]
     return ".".join(str(number) for number in [*numbers[:place], numbers[place] + 1])
 

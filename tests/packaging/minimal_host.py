@@ -1,4 +1,4 @@
-"""The minimal host of the README, built in a folder of its own in one way or another."""
+"""The minimal host of the README, and ways to build it in a folder of its own."""
 
 import pathlib
 import re
@@ -17,7 +17,7 @@ C_ANSWER = "n: a node\nr: a relationship\none: something else\n"
 
 
 def block(language: str, first_words: str) -> str:
-    """The one block of the README in this language that begins so."""
+    """The only block of the README in this language that begins with these words."""
     (text,) = re.findall(rf"^```{language}\n({re.escape(first_words)}.*?)^```$", README, re.DOTALL | re.MULTILINE)
     return text
 

@@ -32,7 +32,7 @@ inline std::ostream& operator<<(std::ostream& out, const TokenList& tokens) {
   return out << (tokens.isWhole ? "to the end" : "and no more");
 }
 
-/// The lexer of the bare runtime, which divides many texts one after the other.
+/// The lexer of the plain runtime. One object divides many texts, one after the other.
 class BareLexer {
  public:
   BareLexer() {
@@ -81,7 +81,7 @@ inline TokenList compiledTokens(std::string_view utf8) {
   return {text.types(), text.tokenTexts(), text.tree().isWhole};
 }
 
-/// Expects that both lexers divide a text alike.
+/// Expects that both lexers find the same tokens in a text.
 inline void expectTokensOfTheBareLexer(BareLexer& bare, std::string_view utf8) {
   EXPECT_EQ(compiledTokens(utf8), bare.tokens(utf8)) << utf8;
 }

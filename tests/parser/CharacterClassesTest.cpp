@@ -1,5 +1,5 @@
-// The compiled lexer takes each character for what the grammar has it for. Sets of characters are
-// ranges, so it may go wrong beside the ends of a range.
+// Tests that the compiled lexer puts each character into the classes that the grammar gives it.
+// Sets are ranges, so mistakes would show near the ends of ranges.
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ bool isCharacter(char32_t codePoint) {
   return codePoint <= lastCodePoint && (codePoint < 0xD800 || codePoint > 0xDFFF);
 }
 
-// All characters inside and outside of an end of some range of the lexer's grammar.
+// The characters on both sides of the ends of all ranges in the lexer's grammar.
 std::set<char32_t> charactersBesideBoundaries(const antlr4::atn::ATN& atn) {
   std::set<char32_t> found;
   const auto add = [&](char32_t codePoint) {
@@ -79,26 +79,26 @@ std::size_t countCharacters(const Test& test) {
   return count;
 }
 
-// Behind a semicolon, as U+FEFF at the very beginning is no part of a text.
+// The text stands behind a semicolon, since U+FEFF at the start is a byte order mark.
 bool isName(const std::string& text) {
   const CompiledText compiled(";" + text);
   return compiled.tree().isWhole &&
          compiled.types() == std::vector<std::size_t>{Lexer::T__0, Lexer::UnescapedSymbolicName};
 }
 
-// ID_Start has 136,345 characters and Pc, which it does not meet, 10.
+// ID_Start has 136,345 characters. Pc has 10 others.
 TEST(Characters, ThatBeginANameAreThoseOfUnicode15) {
   EXPECT_EQ(countCharacters([](const std::string& first) { return isName(first + "zz"); }),
             136345U + 10U);
 }
 
-// ID_Continue has 139,482 characters, among them those of Pc; Sc, which it does not meet, has 63.
+// ID_Continue has 139,482 characters, including those of Pc. Sc has 63 others.
 TEST(Characters, ThatContinueANameAreThoseOfUnicode15) {
   EXPECT_EQ(countCharacters([](const std::string& next) { return isName("z" + next); }),
             139482U + 63U);
 }
 
-// Scalar values: all code points but the surrogates.
+// Tries all code points but the surrogates.
 TEST(Characters, OfAllKindsMayStandInStringsNamesAndComments) {
   constexpr std::size_t all = 0x110000 - 0x800;
   const auto areOneToken = [](const std::string& text) {

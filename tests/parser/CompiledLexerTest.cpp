@@ -1,4 +1,4 @@
-// Which tokens the compiled lexer takes, also where the text ends before the token does.
+// Tests which tokens the compiled lexer finds, also where the text ends inside a token.
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -27,7 +27,7 @@ std::size_t onlyType(const std::string& text) {
                                                                       : 0;
 }
 
-// Where the first character stands that no token begins with, in bytes.
+// The byte offset of the first character that no token begins with.
 std::size_t lexedBytes(const std::string& text) {
   const CompiledText compiled(text);
   EXPECT_EQ(compiled.tree().isWhole, compiled.tree().starts.back() == text.size()) << text;
@@ -120,7 +120,7 @@ TEST(CompiledLexer, TakesACommentThatIsNotClosedForASlashAndAStar) {
   EXPECT_EQ(textsOf("/* z"), (Texts{"/", "*", " ", "z"}));
   EXPECT_EQ(textsOf("a /* z"), (Texts{"a", " ", "/", "*", " ", "z"}));
   EXPECT_EQ(typesOf("/*"), (Types{Lexer::T__19, Lexer::T__4}));
-  // What follows is read as text, and what seems to be text there may be closed.
+  // The rest of the comment is read as tokens, and quotes in it may close a string.
   EXPECT_EQ(textsOf("/* '/* ' */"), (Texts{"/* '/* ' */"}));
   EXPECT_EQ(textsOf("/* '/* '"), (Texts{"/", "*", " ", "'/* '"}));
   EXPECT_EQ(textsOf("/* " + std::string(100, 'z') + " // b"),
@@ -172,7 +172,7 @@ TEST(CompiledLexer, JoinsNamesAtADoubledBackQuote) {
   EXPECT_EQ(onlyType("``"), Lexer::EscapedSymbolicName);
   EXPECT_EQ(onlyType("`\n'\\`"), Lexer::EscapedSymbolicName);
   EXPECT_EQ(onlyType("`a```"), Lexer::EscapedSymbolicName);
-  // The first name stands although a second one seemed to begin.
+  // The first name is a token, although a second one seems to begin.
   EXPECT_EQ(textsOf("`a``"), (Texts{"`a`"}));
   EXPECT_EQ(lexedBytes("`a``"), 3U);
   EXPECT_EQ(lexedBytes("`"), 0U);
@@ -216,7 +216,7 @@ TEST(CompiledLexer, StopsAtTheFirstCharacterOfNoToken) {
 }
 
 TEST(CompiledLexer, ReadsNothingBehindTheEndOfTheText) {
-  // A part of a longer text, in which each token would go on.
+  // Each text is the part of a longer one before the bar, where the token would go on.
   for (const char* text : {"ab|c", "12|3", "'a|'", "/* |*/", "// |\n", "1e|5", "1.|5", "`a|`",
                            "a|\u0301", "<|=", ".|.", "0x|1", "'\\u00|e9'", "\u2028|\u2028"}) {
     const std::string whole(text);
@@ -245,7 +245,7 @@ TEST(CompiledLexer, TakesWhatIsThereOfATokenThatTheTextCutsOff) {
   EXPECT_EQ(lexedBytes("a \\u00"), 2U);
 }
 
-// Pieces that are tokens, that seem to begin one, and that end one.
+// Pieces that are tokens, that seem to begin tokens, or that end them.
 const std::vector<std::string>& pieces() {
   static const std::vector<std::string> all = {
       "match",  "x",      "a",          "`q``r`", "1",  "0x1F",  "0x",         "0o7",  "0",

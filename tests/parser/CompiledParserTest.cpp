@@ -1,5 +1,5 @@
-// What the compiled parser accepts, and which nodes it leaves, above all where looking a few tokens
-// ahead does not tell which alternative it is.
+// Tests what the compiled parser accepts and which nodes it makes, above all where a few tokens
+// ahead do not tell the alternative.
 
 #include <gtest/gtest.h>
 
@@ -175,7 +175,7 @@ TEST(CompiledParser, TakesDotsForAFunctionsNameIfAParenthesisFollows) {
   EXPECT_EQ(nodes("a(b)", TreeRule::oC_Variable), Texts{"b"});
   EXPECT_EQ(nodes("a", TreeRule::oC_Variable), Texts{"a"});
   EXPECT_EQ(nodes("a.b:C", TreeRule::oC_LabelName), Texts{"C"});
-  // Reserved words are keys but no part of a function's name, and no blank stands in one.
+  // Reserved words may be keys but no part of a function's name, and such a name has no blanks.
   EXPECT_EQ(nodes("a.b.in", TreeRule::oC_PropertyKeyName), (Texts{"b", "in"}));
   EXPECT_EQ(nodes("a. b .c", TreeRule::oC_PropertyKeyName), (Texts{"b", "c"}));
   EXPECT_EQ(verdictOnExpression("a.in(b)"), Verdict::Refused);

@@ -10,7 +10,7 @@
 #include "parser/CompiledParser.h"
 #include "parser/SyntaxTree.h"
 
-/// A text in the tokens of the compiled lexer, and what the compiled parser makes of them.
+/// A text with the tokens of the compiled lexer and the nodes of the compiled parser.
 class CompiledText {
  public:
   explicit CompiledText(std::string utf8) : text_(std::move(utf8)), tree_(text_) {

@@ -1,5 +1,5 @@
-// Long texts, and those in which a lexer or a parser that begins anew at every place would look
-// through the rest of the text each time. Nothing is measured: that would take for ever.
+// Tests long texts, some of which tempt a lexer or a parser to read the rest of the text again at
+// every place. No time is measured: such a mistake would make the tests run for ever.
 
 #include <gtest/gtest.h>
 
@@ -78,7 +78,7 @@ TEST(ManyTokens, BehindCommentsThatAreNotClosedAreThatMany) {
   EXPECT_EQ(compiled.tree().types[3 * many - 1], Lexer::SP);
 }
 
-// In each of them the end of the text decides what the beginning is.
+// Pieces to repeat, and ends that decide what the beginning of the text is.
 const std::vector<std::pair<std::string, std::string>>& piecesAndEnds() {
   static const std::vector<std::pair<std::string, std::string>> all = {
       {"/* ", ""},     {"/*", ""},   {"/*", "*/"},      {"/* ", "/***/"}, {"/", "\rz"},
@@ -144,7 +144,7 @@ TEST(ManyPieces, OfAQueryAreAccepted) {
   }
 }
 
-// The stack is as large as the library makes use of.
+// The stack is as large as the library uses at most.
 TEST(ManyLevels, AreAcceptedOrRefusedWhetherTheyAreClosedOrNot) {
   constexpr std::size_t levels = 5'000;  // which fit when sanitizers enlarge the frames
   for (const Shape& shape : allShapes()) {

@@ -1,4 +1,4 @@
-// The trees of the sample texts.
+// Tests the trees of the sample texts.
 
 #include <gtest/gtest.h>
 
@@ -32,14 +32,14 @@ std::vector<Sample> samplesIn(const std::string& folder) {
   for (const auto& entry : std::filesystem::directory_iterator(path)) {
     std::ifstream file(entry.path(), std::ios::binary);
     std::string text{std::istreambuf_iterator<char>(file), {}};
-    // The end of the file's last line is no part of an expression.
+    // The line break at the end of the file is no part of the expression.
     text.resize(text.find_last_not_of("\r\n") + 1);
     samples.push_back({entry.path().filename().string(), text, folder == "queries"});
   }
   return samples;
 }
 
-// Those of the examples, and texts with what the examples lack.
+// The texts of the examples, and texts with constructs that the examples lack.
 std::vector<Sample> samples() {
   std::vector<Sample> all = samplesIn("queries");
   for (const Sample& filter : samplesIn("filters")) {

@@ -1,4 +1,4 @@
-// How an analysis finds its way in a tree.
+// Tests how an analysis finds nodes and texts in a tree.
 
 #include <gtest/gtest.h>
 
@@ -64,7 +64,7 @@ TEST(SyntaxTree, GivesTheFirstChildOfARuleOrNone) {
   ASSERT_NE(key, nullptr);
   EXPECT_EQ(tree.textOf(*key), "a");
   EXPECT_EQ(tree.child(*access, TreeRule::oC_LabelName), nullptr);
-  // It stands inside the atom.
+  // The variable stands inside the atom, one level below.
   EXPECT_EQ(tree.child(*access, TreeRule::oC_Variable), nullptr);
 }
 

@@ -1,4 +1,4 @@
-// The order in which a listener hears of nodes and tokens.
+// Tests the order in which a walk tells a listener of nodes and tokens.
 
 #include <gtest/gtest.h>
 
@@ -125,7 +125,7 @@ TEST(TreeWalk, TellsOfEnteringAndLeavingEachNodeOnce) {
       "RETURN (a)--(e), EXISTS { (f) }, e.g UNION RETURN 1");
   ASSERT_EQ(text.parseQuery(), vorn::Verdict::Accepted);
   std::size_t told = 0;
-  // A listener that hears of every rule by the same operations as the walk tells of them.
+  // The listener records every rule.
   Recorder recorder(text.tree());
   vorn::walk(text.tree(), recorder);
   for (const SyntaxTree::Node& node : text.tree().nodes) {

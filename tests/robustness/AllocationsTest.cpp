@@ -1,4 +1,4 @@
-// A call with a valid text takes little from the heap and leaves nothing there.
+// Tests that a call with a valid text takes little from the heap and leaves nothing there.
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ std::size_t allocationsOf(const Action& action) {
   return FailingNew::allocations();
 }
 
-// How many allocations a call makes, beside those that a copy of its answer makes.
+// How many allocations a call makes, less those that a copy of its answer makes.
 template <typename Call>
 std::size_t allocationsBesideTheAnswer(const Call& call) {
   decltype(call()) answered;
@@ -93,7 +93,7 @@ TEST(ACallWithAValidText, LeavesNothingInTheProcess) {
   }
 }
 
-// The runtime's tables stay, and what it finds out about states of the grammar at errors.
+// The first time leaves the static data of the runtime, which notes the expected tokens at errors.
 TEST(AWrongFilter, LeavesNothingMoreTheSecondTime) {
   const LoadedLibrary library;
   const auto liveAfter = [&](const char16_t* filter) {

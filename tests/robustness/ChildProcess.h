@@ -8,9 +8,9 @@
 #include <exception>
 #include <string>
 
-/// Runs the function in a process of its own, where it may do what a process does only once, and
-/// returns the text that it returns. An exception or a signal that ends it adds a line about
-/// itself. Nothing is done of what programs do at their end.
+/// Runs the function in a process of its own and returns its text. So the function may do what a
+/// process can do only once. If an exception or a signal ends it, the text has a line about that.
+/// The process ends without destructors and exit handlers.
 template <typename Function>
 std::string inChildProcess(const Function& function) {
   std::array<int, 2> ends{};

@@ -13,7 +13,7 @@ namespace {
 const vorn::WideString forbidden = u"size([x IN n.list | x]) > 0";
 const vorn::WideString malformed = u"n.a = ";
 
-// A host that knows the header only, and that the loader keeps apart from the library.
+// A host that has only the header. The loader keeps its symbols apart from the library.
 class ExceptionsAcrossTheBorder : public testing::Test {
  protected:
   const LoadedLibrary library;

@@ -16,8 +16,8 @@ void findExported(void* library, Function& function, const char* mangledName) {
   function = reinterpret_cast<Function>(symbol);
 }
 
-/// The three functions of a library that dlopen has loaded. Throws a std::runtime_error if one is
-/// not there.
+/// The three functions of a library that dlopen has loaded. Throws a std::runtime_error if the
+/// library lacks one of them.
 inline Calls exportedCalls(void* library) {
   Calls found{};
   findExported(

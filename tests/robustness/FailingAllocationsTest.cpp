@@ -1,5 +1,5 @@
-// Every allocation that a call makes may fail. Then the call fails in its own way, and the
-// next call is answered as if nothing had been.
+// Tests that every allocation of a call may fail: the call reports it in its own way, and the next
+// call is answered as always.
 
 #include <gtest/gtest.h>
 
@@ -21,8 +21,8 @@ namespace {
 const std::string outOfMemory = "failed: std::bad_alloc";
 const std::string outOfMemoryForColumns = "status 1, from before the call 0";
 
-// The first wrong filter of a process makes some 100,000 allocations. All of them take hours and
-// have a make target.
+// The first wrong filter of a process makes some 100,000 allocations. To let each of them fail
+// takes hours, so that has a make target.
 std::size_t step() { return std::getenv("VORN_EVERY_ALLOCATION") == nullptr ? 499 : 1; }
 
 struct Attempt {
@@ -43,8 +43,8 @@ Attempt ask(const Calls& calls, const Question& question, std::size_t failing) {
   return attempt;
 }
 
-// A failure may remain without consequence, where memory would only be saved. The runtime may cut
-// its message short.
+// A failure may have no effect, where the allocation only saves later ones. The runtime may cut its
+// message short.
 bool isRight(const std::string& actual, const std::string& expected) {
   return actual == outOfMemory || actual == outOfMemoryForColumns ||
          (actual == expected.substr(0, actual.size()) && actual.size() > 3);
@@ -61,7 +61,7 @@ std::string answerOfFirstCall(const Question& question) {
   return inChildProcess([&] { return answer(library.calls(), question); });
 }
 
-// What is wrong after the first call of a process in which this allocation fails.
+// Describes what goes wrong if this allocation fails in the first call of a process.
 std::string failureInFirstCall(const Question& question, std::size_t failing,
                                const std::string& expected) {
   const std::ptrdiff_t before = FailingNew::live();
@@ -83,8 +83,8 @@ std::string failureInFirstCall(const Question& question, std::size_t failing,
 
 class FailingAllocations : public testing::TestWithParam<Question> {
  protected:
-  // What the process itself sets up once, at the first exception for instance, is not the
-  // library's.
+  // The process sets up some things once, for example at the first exception. They do not belong to
+  // the library, so that happens before the tests.
   static void SetUpTestSuite() {
     const LoadedLibrary library;
     for (const Question& question : questions()) {
@@ -118,7 +118,7 @@ TEST_P(FailingAllocations, InALaterCallLeaveTheNextOneRight) {
 
 INSTANTIATE_TEST_SUITE_P(Questions, FailingAllocations, testing::ValuesIn(questions()));
 
-// The first wrong filter builds the runtime's tables, which each failure leaves where it was.
+// The first wrong filter builds the static data of the runtime, and each failure interrupts that.
 TEST(FailuresInARow, LeaveTheTablesSound) {
   constexpr std::size_t stride = 7;
   const LoadedLibrary library;
@@ -137,8 +137,8 @@ TEST(FailuresInARow, LeaveTheTablesSound) {
   }
 }
 
-// The count of what is allocated serves here too: with every text an error may end a call
-// elsewhere.
+// This test is here since the program counts allocations: with each text an error may end a call at
+// another place, which might leak.
 TEST(Unloading, FreesWhatRandomTextsLeftBehind) {
   const auto askRandomQuestions = [] {
     const LoadedLibrary library;

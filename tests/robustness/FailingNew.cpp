@@ -46,8 +46,7 @@ void failAt(std::size_t n) {
 
 }  // namespace FailingNew
 
-// The array forms end here too, but not those for memory that is aligned more strictly, which
-// nobody uses.
+// The array forms call these. The forms with a stricter alignment do not, but nothing uses them.
 void* operator new(std::size_t size) { return allocateOrThrow(size); }
 void* operator new[](std::size_t size) { return allocateOrThrow(size); }
 void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {

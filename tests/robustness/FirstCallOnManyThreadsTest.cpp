@@ -31,7 +31,7 @@ std::vector<std::string> answers(const Calls& calls, const std::vector<Question>
   return all;
 }
 
-// All begin at the same moment, each with another question.
+// The answers of threads that begin at the same moment, each with another question.
 std::vector<std::vector<std::string>> answersOnManyThreads(const Calls& calls,
                                                            const std::vector<Question>& asked) {
   std::atomic<int> waiting{threads};
@@ -68,7 +68,7 @@ TEST(FirstCallOnManyThreads, AnswersAsOnOneThread) {
   }
 }
 
-// Valid texts and wrong ones side by side, of which the wrong filters share the runtime's tables.
+// Valid and wrong texts at the same time. The wrong filters share the static data of the runtime.
 TEST(ManyThreads, AnswerAsOneThread) {
   const std::vector<Question> asked = randomQuestions(1, 450);
   const std::vector<std::string> expected = answersOfOneThread(asked);

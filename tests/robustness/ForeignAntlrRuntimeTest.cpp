@@ -1,5 +1,5 @@
-// A host with an ANTLR runtime and a Cypher parser of its own, of another build, whose symbols all
-// the process can see.
+// Tests a host with its own build of an ANTLR runtime and a Cypher parser, whose symbols are
+// visible to the whole process.
 
 #include <ANTLRInputStream.h>
 #include <CommonTokenStream.h>
@@ -14,7 +14,7 @@
 
 namespace {
 
-// What the host's own parser, which even has the name of the library's, makes of a text.
+// The tree by the host's own parser, which has the same name as the library's.
 std::string treeByTheHost() {
   antlr4::ANTLRInputStream input(std::string_view("n.a = 1 AND (n)-->(m)"));
   vorn::CypherLexer lexer(&input);
@@ -41,7 +41,7 @@ TEST(ForeignAntlrRuntime, LivesBesideTheLibrarys) {
   EXPECT_EQ(answers.at(1), "status 0, größe 0, count(*) 0");
 }
 
-// An exception of the library's runtime is none of the host's, and both are std::exception.
+// The host's runtime does not catch an exception of the library's. Both are std::exceptions.
 TEST(ForeignAntlrRuntime, HasExceptionsOfItsOwn) {
   const LoadedLibrary library;
   try {

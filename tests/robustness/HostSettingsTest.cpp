@@ -1,5 +1,5 @@
-// Whatever a host has set for its process, the answers stay the same. Each setting is tried in a
-// process of its own, in which the library is called for the first time.
+// Tests that no setting of a host's process changes an answer. Each setting is tried in a process
+// of its own that has not called the library before.
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@
 
 namespace {
 
-// The questions, and one whose error stands at a place that a locale would write with a comma.
+// All questions, and one with an error at a place whose number a locale would write with a comma.
 std::vector<Question> allQuestions() {
   std::vector<Question> all = questions();
   all.push_back({Question::Kind::usages, vorn::WideString(12345, u'1') + u" = "});

@@ -6,8 +6,8 @@
 
 #include "robustness/ExportedCalls.h"
 
-/// The shared library, loaded while this lives. Where nobody else has loaded it, every call after
-/// that is a first one.
+/// The shared library, loaded while the object lives. If it was not loaded before, the next call is
+/// the first one of the library.
 class LoadedLibrary {
  public:
   LoadedLibrary() : handle(::dlopen(VORN_LIBRARY, RTLD_NOW | RTLD_LOCAL)) {
@@ -21,7 +21,7 @@ class LoadedLibrary {
   LoadedLibrary& operator=(LoadedLibrary&&) = delete;
   ~LoadedLibrary() { ::dlclose(handle); }
 
-  /// Whether some handle still keeps the library in the process.
+  /// Whether the library is still in the process.
   static bool isPresent() {
     void* const present = ::dlopen(VORN_LIBRARY, RTLD_NOW | RTLD_NOLOAD);
     if (present != nullptr) {

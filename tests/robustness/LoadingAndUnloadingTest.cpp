@@ -53,7 +53,8 @@ TEST(LoadingAndUnloading, AfterDeepTextsTakesLittleStack) {
   EXPECT_FALSE(LoadedLibrary::isPresent());
 }
 
-// What a host does last comes after the destructors of a library that it has loaded in between.
+// An exit handler that the host registers before it loads the library runs after the destructors of
+// the library.
 TEST(EndOfTheProcess, LeavesACallThatTheHostMakesThenAnsweredAsAlways) {
   static const std::vector<std::string> expected = answersOfALoadedLibrary();
   EXPECT_EXIT(

@@ -19,13 +19,13 @@ struct Question {
   Kind kind;
   vorn::WideString text;
 
-  // For the names of tests, which the bytes of an object would make different in each run.
+  // GoogleTest would print the bytes of the object, which differ in each run.
   friend std::ostream& operator<<(std::ostream& out, const Question& question) {
     return out << "text of " << question.text.size() << " units";
   }
 };
 
-/// What the host gets, be it an exception, in one line that can be compared.
+/// The answer or the exception that a host gets, as one line that can be compared.
 std::string answer(const Calls& calls, const Question& question);
 
 /// Good and bad texts for all three functions.

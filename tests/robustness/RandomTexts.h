@@ -8,8 +8,8 @@
 
 #include "robustness/Questions.h"
 
-/// Draws queries and filters, good and bad, each from a sequence that its seed decides. They cover
-/// the language in its breadth and nest some levels deep; no two runs differ.
+/// Draws queries and filters, good and bad ones. They cover the whole language and nest some levels
+/// deep. Equal seeds give equal texts.
 class RandomTexts {
  public:
   explicit RandomTexts(unsigned seed) : engine(seed) {}
@@ -20,7 +20,7 @@ class RandomTexts {
   /// A property filter, with forbidden elements now and then.
   std::string filter();
 
-  /// The text with a piece of it missing, doubled or replaced by a character that strangers send.
+  /// The text with a piece of it missing, doubled or replaced by a character of untrusted input.
   std::string damaged(std::string text);
 
   /// A number below the bound.
@@ -50,5 +50,5 @@ class RandomTexts {
   std::mt19937 engine;
 };
 
-/// A question about such a text, one time in three a damaged one.
+/// A question about a drawn text, which is damaged one time in three.
 Question randomQuestion(RandomTexts& texts);

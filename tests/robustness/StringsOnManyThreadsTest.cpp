@@ -11,7 +11,7 @@
 
 namespace {
 
-// What a host does with the string classes, in objects of its own, beside one that all read.
+// Uses the string classes in objects of its own, and reads an object that all threads share.
 bool works(const String& shared) {
   for (int i = 0; i < 1000; ++i) {
     String text(u"left");

@@ -1,7 +1,7 @@
 #include <cstdint>
 
-// A host's own class String, with members by the same names as the library's. This is another
-// library's internal affair in a real host, so no header tells of it.
+// A host's own class String, whose members have the same names as the library's. In a real host it
+// would be internal to another library, so no header declares it.
 class String {
  public:
   std::uint32_t GetLength() const noexcept;

@@ -12,7 +12,7 @@ constexpr std::int32_t sOk = 0;
 constexpr std::int32_t sFalse = 1;
 constexpr auto eOutOfMemory = static_cast<std::int32_t>(0x8007000E);
 
-/// Expects that the action reports this status and leaves both a text and a null as they are.
+// Expects that the action reports this status and leaves both a text and a null as they are.
 template <typename Action>
 void expectNoChange(std::int32_t status, Action action) {
   BString text = bstringOf("ab");

@@ -10,10 +10,10 @@ using namespace std::string_literals;
 
 namespace {
 
-/// One side of a comparison: a text or null.
+// One side of a comparison: a text or null.
 using Side = std::optional<std::string>;
 
-/// A side in the forms to which a BString can be compared.
+// A side in all forms that a BString can be compared with.
 class Operand {
  public:
   explicit Operand(const Side& side)
@@ -31,7 +31,7 @@ class Operand {
   vorn::WideString wideText;
 };
 
-/// Runs through all pairs of null, the empty text and others. Sides compare as BStrings should.
+// Checks all pairs of null, the empty text and others. The sides compare as BStrings should.
 template <typename Check>
 void forAllPairs(Check check) {
   const std::vector<Side> sides{std::nullopt, "", "A", "a", "ab", "b"};
@@ -108,7 +108,7 @@ TEST(ComparingABString, StopsAtTheFirstZero) {
 }
 
 TEST(ComparingABString, OrdersByCodeUnitsWithoutSign) {
-  // As code points these two would come the other way round.
+  // By code points the order would be the opposite one.
   EXPECT_TRUE(bstringOf("\U0001F600") < bstringOf("\uFF5E"));
   EXPECT_FALSE(bstringOf("\uFFFD") < bstringOf("a"));
 }

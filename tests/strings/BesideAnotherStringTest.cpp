@@ -2,8 +2,7 @@
 
 #include "Strings.h"
 
-// The program has another class String, whose members must not take the place of the library's
-// where the library itself calls them.
+// The program has another class String. The library must still call the members of its own class.
 TEST(BesideAnotherString, TheLibraryCallsItsOwnMembers) {
   const String text = stringOf("abc");
   EXPECT_EQ(utf8Of(BString(text)), "abc");

@@ -32,7 +32,7 @@ Books& books() {
 
 namespace vorn::platform {
 
-// A test that runs out of real memory may as well end here.
+// If real memory runs out, the test may end here.
 WideChar* SysAllocStringLen(const WideChar* source, std::size_t length) noexcept {
   if (books().exhausted) {
     return nullptr;

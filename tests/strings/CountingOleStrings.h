@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-/// Allocates the BSTRs of the program instead of platform/OleStrings.cpp, keeps count of them and
+/// Allocates the BSTRs of the program in place of the library's OleStrings.cpp. It counts them and
 /// fails on demand.
 namespace CountingOleStrings {
 
@@ -12,7 +12,7 @@ std::size_t live();
 /// How many BSTRs have been allocated so far.
 std::size_t allocated();
 
-/// How many times something was freed that is no live BSTR. Null is none.
+/// How many times a pointer was freed that is neither a live BSTR nor null.
 std::size_t wronglyFreed();
 
 /// While it lives, no BSTR can be allocated.

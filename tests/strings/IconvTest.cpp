@@ -1,4 +1,4 @@
-// The lengths agree with what iconv makes of the same text, where the encoding has it.
+// Tests that lengths agree with the results of iconv, if the encoding has the text.
 
 #include <gtest/gtest.h>
 #include <iconv.h>
@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Encodes UTF-16 in the encoding of the locale.
+// Encodes UTF-16 in the encoding of the locale.
 class Encoder {
  public:
   Encoder() : descriptor(iconv_open(nl_langinfo(CODESET), "UTF-16LE")) {
@@ -30,7 +30,7 @@ class Encoder {
   Encoder& operator=(Encoder&&) = delete;
   ~Encoder() { iconv_close(descriptor); }
 
-  /// Nothing when the encoding does not have all of the text.
+  // Empty if the encoding lacks a character of the text.
   std::optional<std::size_t> lengthOf(vorn::WideString text) {
     std::array<char, 64> bytes{};
     char* in = reinterpret_cast<char*>(text.data());
@@ -50,7 +50,7 @@ class Encoder {
   iconv_t descriptor;
 };
 
-/// The locale and what its byte length of a code unit is that it cannot encode.
+// A locale, and its byte length of a code unit that it cannot encode.
 struct Case {
   const char* locale;
   std::size_t estimatePerUnit;
@@ -75,7 +75,7 @@ TEST_P(TheByteLengthAndIconv, AgreeOnEveryCodePoint) {
   const ScopedLocale locale(GetParam().locale);
   Encoder encoder;
   std::size_t encodable = 0;
-  // Behind plane 2 there are no characters but private ones.
+  // The later planes are left out: they have few characters.
   for (char32_t codePoint = 1; codePoint < 0x30000; ++codePoint) {
     const vorn::WideString text = textOf(codePoint);
     const std::optional<std::size_t> encoded = encoder.lengthOf(text);

@@ -1,4 +1,4 @@
-// What depends on the locale, in real ones.
+// Tests the members that depend on the locale, in real locales.
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ namespace {
 
 const std::vector<std::string> twoByteLocales{"ja_JP.eucJP", "ko_KR.eucKR", "zh_TW.EUC-TW",
                                               "zh_HK",       "zh_CN",       "zh_SG"};
-// No legacy East Asian encoding has it.
+// A character that no legacy East Asian encoding has.
 constexpr auto strange = "\U0001F600";
 
 String withoutValidText() {
@@ -56,7 +56,7 @@ TEST(TheByteLength, CountsPairsThatAreOneCharacterOfTheEncoding) {
   const ScopedLocale locale("zh_HK");
   EXPECT_EQ(stringOf("\u00CA\u0304").GetByteLength(), 2U);
   EXPECT_EQ(stringOf("\u00CA").GetByteLength(), 2U);
-  // Wherever a long text is cut for the conversion, the pairs stay together.
+  // The conversion works in chunks, which must not separate surrogate pairs.
   std::string pairs = "x";
   for (int i = 0; i < 1000; ++i) {
     pairs += "\u00CA\u0304";
@@ -182,7 +182,7 @@ TEST(ComparingWithoutCase, FoldsAsTheLocaleDoes) {
 
 TEST(ComparingWithoutCase, FoldsOneCodeUnitAtATime) {
   const ScopedLocale locale("en_US.UTF-8");
-  // A pair of letters that differ in case, outside the range of one code unit.
+  // Two letters that differ in case, but take two code units each.
   EXPECT_NE(stringOf("\U00010400").CompareNoCase(wide("\U00010428").c_str()), 0);
 }
 

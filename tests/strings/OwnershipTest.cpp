@@ -1,4 +1,5 @@
-// Every BSTR is freed exactly once, and memory that runs out leaves everything as it was.
+// Tests that every BSTR is freed exactly once, and that objects stay as they are if memory runs
+// out.
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -15,7 +16,7 @@ namespace {
 
 constexpr auto eOutOfMemory = static_cast<std::int32_t>(0x8007000E);
 
-/// What a test allocates is freed, all of it and nothing twice, when the test is over.
+// Checks at the end of a test that all its BSTRs are freed, and none of them twice.
 class OwningBstrs : public testing::Test {
  protected:
   void TearDown() override {
@@ -189,7 +190,7 @@ TEST_F(RunningOutOfMemory, IsReportedByAppendWhichChangesNothing) {
   text += other;
   EXPECT_EQ(pointerIn(text), held);
   EXPECT_EQ(utf8Of(text), "ab");
-  // Nothing to append is noticed before memory is asked for.
+  // An empty text is noticed before any memory is requested.
   EXPECT_EQ(text.Append(more.c_str(), 0), 1);
 }
 

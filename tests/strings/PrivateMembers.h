@@ -3,8 +3,8 @@
 #include "vorn/strings/String.h"
 #include "vorn/strings/StringArray.h"
 
-// Access is not checked in an explicit instantiation, which lets a host reach a private member that
-// the library exports for it.
+// An explicit instantiation may name private members. So a host reaches the private members that
+// the library exports.
 
 template <typename Member, Member member>
 struct Reach {

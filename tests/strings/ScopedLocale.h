@@ -5,8 +5,8 @@
 #include <stdexcept>
 #include <string>
 
-/// Makes a locale the process's LC_CTYPE while it lives. The locales are those that the build makes
-/// for the tests, so that none has to be installed.
+/// Sets the LC_CTYPE of the process while the object lives. The build makes the locales for the
+/// tests, so that none has to be installed.
 class ScopedLocale {
  public:
   explicit ScopedLocale(const std::string& name) : before(std::setlocale(LC_CTYPE, nullptr)) {

@@ -1,4 +1,4 @@
-// The storage of a String: that it is released, and what happens when there is none.
+// Tests that the storage of a String is released, and what happens if memory runs out.
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ namespace {
 bool exhausted = false;
 std::ptrdiff_t liveBlocks = 0;
 
-/// While it lives, `new` throws.
+// Makes `new` throw while the object lives.
 class Exhausted {
  public:
   Exhausted() { exhausted = true; }
@@ -25,7 +25,7 @@ class Exhausted {
   ~Exhausted() { exhausted = false; }
 };
 
-/// Whether the action throws std::bad_alloc while there is no memory.
+// Whether the action throws std::bad_alloc while there is no memory.
 template <typename Action>
 bool runsOutOfMemory(Action action) {
   const Exhausted noMemory;

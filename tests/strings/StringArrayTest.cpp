@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The Strings and the array of pointers that a StringArray is a view of.
+// Owns Strings and the array of pointers that a StringArray refers to.
 class Elements {
  public:
   explicit Elements(const std::vector<std::string_view>& texts) {

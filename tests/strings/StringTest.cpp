@@ -15,7 +15,7 @@ namespace {
 
 constexpr int notComparable = 2147483647;
 
-/// Four characters, of which the third is zero.
+// Four characters, of which the third is zero.
 String withZeroInside() {
   String text = stringOf("ab");
   text.ConcatImpl(wide("").c_str(), 1);
@@ -233,9 +233,9 @@ TEST(ComparingAString, TellsCasesApartAndOrdersByCodeUnits) {
   EXPECT_LT(stringOf("ABC").Compare(wide("abc").c_str()), 0);
   EXPECT_GT(stringOf("abc").Compare(wide("ab").c_str()), 0);
   EXPECT_LT(stringOf("ab").Compare(wide("abc").c_str()), 0);
-  // As code points these two would come the other way round.
+  // By code points the order would be the opposite one.
   EXPECT_LT(stringOf("\U0001F600").Compare(wide("\uFF5E").c_str()), 0);
-  // Code units have no sign.
+  // Code units compare as unsigned numbers.
   EXPECT_GT(stringOf("\uFFFD").Compare(wide("a").c_str()), 0);
 }
 

@@ -16,7 +16,7 @@ using WideView = std::basic_string_view<vorn::WideChar>;
 /// A String of UTF-8 that a test writes.
 inline String stringOf(std::string_view utf8) { return String(wide(utf8).c_str()); }
 
-/// A BString of UTF-8 that a test writes, zeros among it included.
+/// A BString of UTF-8 that a test writes. The text may contain zeros.
 inline BString bstringOf(std::string_view utf8) {
   BString made(0L);
   const vorn::WideString text = wide(utf8);
@@ -24,7 +24,7 @@ inline BString bstringOf(std::string_view utf8) {
   return made;
 }
 
-/// UTF-8 of all characters, zeros among them included.
+/// All characters in UTF-8, also those behind a zero.
 template <typename Text>
 std::string utf8Of(const Text& text) {
   const WideView view = text;

@@ -7,7 +7,7 @@
 #include "CypherInterrogator.h"
 #include "support/Text.h"
 
-/// Whether the library takes a text for a query.
+/// Whether the library accepts a text as a query.
 inline bool accepts(std::string_view query) {
   try {
     vorn::CypherInterrogator interrogator(wide(query));
@@ -17,7 +17,7 @@ inline bool accepts(std::string_view query) {
   }
 }
 
-/// Whether the library takes a text for an expression where a query has one.
+/// Whether the library accepts a text as an expression inside a query.
 inline bool acceptsExpression(std::string_view expression) {
   return accepts("RETURN " + std::string(expression));
 }

@@ -12,7 +12,7 @@
 /// Columns with UTF-8 names, as a test writes them.
 using Columns = std::vector<std::pair<std::string, vorn::CypherType>>;
 
-// The kinds, by the short names that make expected columns readable.
+// Short names of the types, so that expected columns are easy to read.
 constexpr vorn::CypherType unknown = vorn::CypherType::Unknown;
 constexpr vorn::CypherType node = vorn::CypherType::Node;
 constexpr vorn::CypherType relationship = vorn::CypherType::Relationship;
@@ -43,7 +43,7 @@ inline ColumnsAnswer analyse(std::string_view query) { return analyse(wide(query
 /// The answer that a query with these columns gets.
 inline ColumnsAnswer answered(Columns columns) { return {0, std::move(columns)}; }
 
-/// The answer that a text gets which is no query.
+/// The answer to a text that is no query.
 inline ColumnsAnswer refused() { return {1, {}}; }
 
 inline std::ostream& operator<<(std::ostream& out, const ColumnsAnswer& answer) {

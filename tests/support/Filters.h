@@ -86,7 +86,7 @@ inline std::string renamed(std::string_view filter, const Renames& renames) {
   return narrow(vorn::ReplaceVariableNamesInPropertyFilterOCExpression(wide(filter), wideRenames));
 }
 
-/// What a call throws, as a host without the library's insides sees it.
+/// The exception of a call, as a host sees it that has only the public header.
 struct Failure {
   enum class Kind { none, forbidden, other };
   Kind kind;
@@ -121,13 +121,13 @@ inline Failure failureOfRenaming(std::string_view filter, const Renames& renames
   return failureOf([&] { renamed(filter, renames); });
 }
 
-/// The failure of a filter that holds such an element.
+/// The failure of a filter with a forbidden element of this type.
 inline Failure forbidden(const std::string& typeName) {
   return {Failure::Kind::forbidden, "The openCypher element '' of type '" + typeName +
                                         "' is forbidden in a property filter expression."};
 }
 
-/// Whether this is the failure of a text that is no expression.
+/// Whether the failure is a syntax error.
 inline bool isSyntaxError(const Failure& failure) {
   return failure.kind == Failure::Kind::other && failure.message.rfind("line ", 0) == 0;
 }

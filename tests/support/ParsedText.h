@@ -7,7 +7,7 @@
 
 #include "support/Pipeline.h"
 
-/// The parse tree of one text, from either start rule.
+/// The parse tree of one text, parsed as a query or as an expression.
 class ParsedText {
  public:
   static ParsedText ofQuery(std::string_view utf8) {
@@ -22,7 +22,7 @@ class ParsedText {
     return tree;
   }
 
-  /// All contexts of one rule, in text order, an outer one before those inside it.
+  /// All contexts of one rule in the order of the text, outer contexts before inner ones.
   template <typename Context>
   std::vector<Context*> all() const {
     std::vector<Context*> found;

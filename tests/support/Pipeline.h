@@ -11,7 +11,7 @@
 #include "CypherParser.h"
 #include "antlr/ThrowingErrorListener.h"
 
-/// The recognisers over one UTF-8 text, as the library sets them up, open to a test.
+/// The recognisers over one UTF-8 text with the library's error listener, open to a test.
 struct Pipeline {
   explicit Pipeline(std::string_view utf8)
       : input(utf8), lexer(&input), tokens(&lexer), parser(&tokens) {

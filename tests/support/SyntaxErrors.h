@@ -8,7 +8,7 @@
 #include "antlr/AntlrPipeline.h"
 #include "support/Pipeline.h"
 
-/// What stands for the message of a text without an error.
+/// Stands for the message if a text has no error.
 inline const std::string noSyntaxError = "no error";
 
 /// The message of the syntax error that a parse ends with.
@@ -22,7 +22,7 @@ std::string syntaxErrorOf(const Parse& parse) {
   return noSyntaxError;
 }
 
-/// That of a query in the library's ANTLR pipeline.
+/// The message for a query from the library's ANTLR pipeline.
 inline std::string syntaxErrorOfQuery(std::string_view utf8) {
   return syntaxErrorOf([&] { vorn::AntlrPipeline(utf8).parseQuery(); });
 }
@@ -31,7 +31,7 @@ inline std::string syntaxErrorOfExpression(std::string_view utf8) {
   return syntaxErrorOf([&] { vorn::AntlrPipeline(utf8).parseExpression(); });
 }
 
-/// That of a query in a pipeline of the bare runtime.
+/// The message for a query from a pipeline of the plain runtime.
 inline std::string bareSyntaxErrorOfQuery(std::string_view utf8) {
   return syntaxErrorOf([&] { Pipeline(utf8).parser.oC_Cypher(); });
 }

@@ -29,7 +29,7 @@ inline std::string encoded(char32_t codePoint) {
   return text;
 }
 
-/// The text with a question mark for each place that is no UTF-8, such as a character cut in two.
+/// The text with a question mark for each ill-formed place, such as half of a character.
 inline std::string wellFormed(std::string_view damaged) {
   std::string text;
   utf8::replace_invalid(damaged.begin(), damaged.end(), std::back_inserter(text), '?');

@@ -1,6 +1,6 @@
-// A call leaves the registers that Windows reserves for its caller as they were, vector registers
-// among them. When an exception ends inside the library, the unwinder restores them from what the
-// compiler wrote down of each function; a mistake there damages the host, not the library.
+// Tests that a call preserves the registers that Windows reserves for the caller, including vector
+// registers. When the library catches an exception, the unwinder restores them by the compiler's
+// notes on each function. A mistake there damages the host, not the library.
 
 #include <gtest/gtest.h>
 
@@ -13,10 +13,10 @@
 #include "support/Text.h"
 #include "vorn/vorn.h"
 
-/// XMM6 to XMM15, with two places each, then RBX, RSI, RDI, RBP and R12 to R15.
+// XMM6 to XMM15, each as two numbers, then RBX, RSI, RDI, RBP and R12 to R15.
 using Registers = std::array<std::uint64_t, 28>;
 
-/// Gives the registers these values, makes the call, and writes down what they hold then.
+// Puts these values into the registers, makes the call, and stores the values after it.
 extern "C" void callWithRegisters(void (*call)(void*), void* argument, Registers* registers);
 
 asm(R"(
@@ -70,7 +70,7 @@ struct Call {
   bool isAnswered;
 };
 
-// No exception may leave these, since the unwinder knows nothing of callWithRegisters.
+// No exception may leave these functions, since the unwinder does not know callWithRegisters.
 void askForColumns(void* argument) {
   auto& call = *static_cast<Call*>(argument);
   std::vector<std::pair<vorn::WideString, vorn::CypherType>> columns;
@@ -89,7 +89,7 @@ void rename(void* argument) {
 
 void expectRegistersKept(void (*ask)(void*), const vorn::WideString& text, bool isAnswered) {
   Call call{text, !isAnswered};
-  // The first wrong filter builds what the second one finds.
+  // The first wrong filter builds the static data, the second one uses it.
   for (int i = 0; i < 2; ++i) {
     Registers registers;
     std::iota(registers.begin(), registers.end(), 0x0123456789abcdefU);

@@ -14,7 +14,7 @@ const Object* at(HMODULE module, std::uintptr_t offset) {
   return reinterpret_cast<const Object*>(reinterpret_cast<std::uintptr_t>(module) + offset);
 }
 
-/// The exported function in whose mangled name `part` stands.
+// The exported function whose mangled name contains `part`.
 template <typename Function>
 Function find(HMODULE module, std::string_view part) {
   const auto* dos = at<IMAGE_DOS_HEADER>(module, 0);
@@ -31,7 +31,7 @@ Function find(HMODULE module, std::string_view part) {
   throw std::runtime_error("the library does not export " + std::string(part));
 }
 
-/// Where the loader has put the address of an imported function.
+// The place where the loader has stored the address of an imported function.
 void** importedAddress(HMODULE module, std::string_view mangledName) {
   const auto* dos = at<IMAGE_DOS_HEADER>(module, 0);
   const auto* headers = at<IMAGE_NT_HEADERS>(module, static_cast<std::uintptr_t>(dos->e_lfanew));

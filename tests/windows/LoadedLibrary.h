@@ -9,7 +9,7 @@
 /// VornLib.dll, loaded while the object lives.
 class LoadedLibrary {
  public:
-  /// Throws std::runtime_error.
+  /// Throws std::runtime_error if the library cannot be loaded.
   LoadedLibrary();
   LoadedLibrary(const LoadedLibrary&) = delete;
   LoadedLibrary(LoadedLibrary&&) = delete;
@@ -21,8 +21,8 @@ class LoadedLibrary {
 
   HMODULE module() const { return handle; }
 
-  /// Has the library call `replacement` for a function of this mangled name that it imports.
-  /// Throws std::runtime_error if it imports none.
+  /// Makes the library call `replacement` in place of the imported function with this mangled name.
+  /// Throws std::runtime_error if the library does not import it.
   void replaceImport(std::string_view mangledName, void* replacement) const;
 
   decltype(&vorn::GetOutputNamesAndTypes) getOutputNamesAndTypes;

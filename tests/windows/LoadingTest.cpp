@@ -1,4 +1,4 @@
-// A host loads and unloads the library as often as it likes.
+// Tests that a host may load and unload the library any number of times.
 
 #include <gtest/gtest.h>
 #include <pthread.h>
@@ -26,7 +26,7 @@ void callEverything(const LoadedLibrary& library) {
   ASSERT_EQ(library.getVariableUsages(L"n.age > 3 AND m:Adult").size(), 2U);
   ASSERT_EQ(library.replaceVariableNames(L"n.age > 3", {{L"n", L"m"}}), L"`m`.age > 3");
   ASSERT_THROW(library.getVariableUsages(L"any(x IN n.list WHERE x)"), std::logic_error);
-  // The first wrong filter builds the runtime's tables.
+  // The first wrong filter builds the static data of the runtime.
   ASSERT_THROW(library.getVariableUsages(L"n.age > "), std::exception);
 }
 
@@ -41,7 +41,7 @@ bool runsOutOfMemory(const LoadedLibrary& library) {
   }
 }
 
-/// What the process has allocated, whatever allocator it came from.
+// The bytes that the process has allocated, by all allocators.
 std::size_t privateMemory() {
   std::size_t total = 0;
   MEMORY_BASIC_INFORMATION region{};
@@ -58,7 +58,7 @@ DWORD handles() {
   return count;
 }
 
-/// How many allocations succeed before one fails.
+// How many allocations succeed before one fails.
 std::size_t allocationsLeft = 0;
 
 void* failOnce(std::size_t bytes) {
@@ -68,7 +68,7 @@ void* failOnce(std::size_t bytes) {
   return operator new(bytes);
 }
 
-/// How many locks are let go before a thread stops while it holds one.
+// How many locks a thread may release before it stops and holds one.
 int locksLeft = 0;
 
 HANDLE lockIsHeld() {
@@ -84,12 +84,13 @@ int stopAtUnlock(pthread_mutex_t* mutex) {
   return pthread_mutex_unlock(mutex);
 }
 
-/// Windows ends all other threads, wherever they are, before a library hears of the end.
+// Before Windows tells a library of the end of the process, it ends all other threads wherever they
+// are.
 [[noreturn]] void endWhileAThreadHoldsALock(const LoadedLibrary& library, UINT status) {
   library.replaceImport("pthread_mutex_unlock", reinterpret_cast<void*>(&stopAtUnlock));
   std::thread([&] {
     callEverything(library);
-    // It has taken fewer locks than that.
+    // The thread comes here if it has released fewer locks.
     SetEvent(lockIsHeld());
     Sleep(INFINITE);
   }).detach();
@@ -102,7 +103,7 @@ int stopAtUnlock(pthread_mutex_t* mutex) {
 TEST(Loading, DoesNotGrowTheProcessOverAThousandRounds) {
   constexpr int rounds = 1000;
   constexpr int warmUp = 100;
-  // Less than the smallest of the tables that a round builds.
+  // Less than the smallest part of the static data, which each round builds.
   constexpr std::size_t allowedForARound = 4096;
   std::size_t memoryBefore = 0;
   DWORD handlesBefore = 0;
@@ -135,7 +136,7 @@ TEST(Loading, LeavesTheColumnsAloneWhenTheFirstCallRunsOutOfMemory) {
   callEverything(library);
 }
 
-// std::call_once of this compiler's library waits for ever after its function has thrown.
+// With this compiler std::call_once waits for ever after its function has thrown.
 TEST(Loading, LeavesNoLockHeldWhenTheFirstCallRunsOutOfMemory) {
   int failures = 0;
   for (std::size_t successes = 0; successes < 100000; successes = 2 * successes + 1) {

@@ -1,4 +1,5 @@
-// The strings of a BString are those of OLE automation: either side frees what the other allocates.
+// Tests that a BString's strings are those of OLE automation: each side can free the other's
+// strings.
 
 #include <gtest/gtest.h>
 #include <windows.h>

@@ -1,4 +1,4 @@
-// Stacks as only Windows has them: fibres, and threads with a part set apart for an overflow.
+// Tests stacks that only Windows has: of fibres, and of threads with a reserve for an overflow.
 
 #include <gtest/gtest.h>
 #include <malloc.h>
@@ -13,7 +13,8 @@
 
 namespace {
 
-/// Of the calling thread's or fibre's stack, down to the lowest address that it may grow to.
+// The rest of the calling thread's or fibre's stack, down to the lowest address that it may grow
+// to.
 std::size_t bytesLeft() {
   ULONG_PTR end = 0;
   ULONG_PTR top = 0;

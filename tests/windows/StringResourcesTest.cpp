@@ -1,4 +1,4 @@
-// Strings of a real resource table, in a DLL that holds nothing else.
+// Tests strings of a real resource table, in a DLL that holds nothing else.
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -14,7 +14,7 @@ class AStringResource : public testing::Test {
   void SetUp() override { ASSERT_NE(module, nullptr); }
   void TearDown() override { FreeLibrary(module); }
 
-  // Beside this program.
+  // The DLL lies beside this program.
   HMODULE module = LoadLibraryW(L"string_resources.dll");
 };
 
@@ -36,7 +36,7 @@ TEST_F(AStringResource, IsACopyThatOutlivesItsModule) {
   FreeLibrary(again);
   FreeLibrary(module);
   EXPECT_EQ(utf8Of(text), "one");
-  // Behind the text stands a zero, which the resource itself does not have.
+  // A zero follows the text, although the resource itself has none.
   EXPECT_EQ(text.GetAt(3), 0);
   module = LoadLibraryW(L"string_resources.dll");
 }

@@ -49,7 +49,7 @@ class Package(unittest.TestCase):
         return folder
 
     def output_of(self, program: Path, *arguments: str) -> str:
-        # The build folder's DLLs must not help.
+        # Wine must not find the DLLs of the build folder.
         environment = {**os.environ, "WINEPATH": str(self.package / "bin")}
         output = run(EMULATOR, program, *arguments, env=environment, cwd=self.scratch)
         return output.replace("\r\n", "\n")

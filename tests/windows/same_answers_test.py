@@ -1,4 +1,4 @@
-"""vorn-inspect for Windows answers byte for byte what the one for Linux answers.
+"""vorn-inspect for Windows gives byte for byte the same answers as vorn-inspect for Linux.
 
     same_answers_test.py LINUX_PROGRAM WINDOWS_PROGRAM EXAMPLES EMULATOR GENERATOR
 
@@ -44,7 +44,7 @@ def generated(kind: str, count: int) -> list[str]:
 
 
 def damaged(texts: list[str]) -> list[str]:
-    """Each text with some characters lost, doubled or put in."""
+    """Each text with some characters removed, doubled or inserted."""
     draw = random.Random(SEED)
     results = []
     for text in texts:

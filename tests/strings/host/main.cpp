@@ -1,5 +1,4 @@
-// Uses every exported member of the string classes, and exits with the number of those that do not
-// behave.
+// Uses every exported member of the string classes. The exit status is the number of failed checks.
 
 #include <vorn/strings/BString.h>
 #include <vorn/strings/String.h>
@@ -31,8 +30,8 @@ String string(std::string_view ascii) { return String(wide(ascii).c_str()); }
 
 using View = std::basic_string_view<vorn::WideChar>;
 
-// An explicit instantiation may name a private member, which is how a test reaches those that the
-// library exports.
+// An explicit instantiation may name private members. So this host reaches the private members that
+// the library exports.
 template <typename Member, Member member>
 struct Reach {
   friend Member reach(Member) { return member; }
