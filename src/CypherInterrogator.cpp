@@ -14,7 +14,7 @@
 #include "antlr/Fallback.h"
 #include "parser/CompiledParser.h"
 #include "parser/TreeWalk.h"
-#include "platform/StringUtf8ImplDetail.h"
+#include "strings/StringUtf8ImplDetail.h"
 
 namespace vorn {
 

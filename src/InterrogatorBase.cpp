@@ -1,7 +1,7 @@
 #include "InterrogatorBase.h"
 
 #include "parser/CompiledLexer.h"
-#include "platform/StringUtf8ImplDetail.h"
+#include "strings/StringUtf8ImplDetail.h"
 
 namespace vorn {
 

@@ -5,7 +5,7 @@
 #include "PropertyFilterExpressionInterrogator.h"
 #include "SymbolicName.h"
 #include "parser/TreeWalk.h"
-#include "platform/StringUtf8ImplDetail.h"
+#include "strings/StringUtf8ImplDetail.h"
 
 namespace vorn {
 

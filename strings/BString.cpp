@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/OleStrings.h"
 #include "platform/WideCharacters.h"
+#include "strings/OleStrings.h"
 
 namespace platform = vorn::platform;
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <utility>
 
-#include "platform/HestraLocale.h"
 #include "platform/WideCharacters.h"
+#include "strings/HestraLocale.h"
 
 namespace {
 

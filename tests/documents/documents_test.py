@@ -199,7 +199,7 @@ class Prose(unittest.TestCase):
 
     def test_of_the_architecture_names_every_header_inside(self) -> None:
         text = "".join((SOURCE / "docs" / name).read_text(encoding="utf-8") for name in ["architecture.md", "strings.md"])
-        for header in [*SOURCE.glob("src/*.h"), *SOURCE.glob("platform/*.h")]:
+        for header in [*SOURCE.glob("src/*.h"), *SOURCE.glob("platform/*.h"), *SOURCE.glob("strings/*.h")]:
             with self.subTest(header=header.name):
                 self.assertTrue(re.search(rf"\b{header.stem}\b", text))
 

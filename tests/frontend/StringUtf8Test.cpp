@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "platform/StringUtf8ImplDetail.h"
+#include "strings/StringUtf8ImplDetail.h"
 #include "support/Text.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <map>
 #include <memory>
 
-#include "platform/OleStrings.h"
+#include "strings/OleStrings.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-/// Allocates the BSTRs of the program in place of the library's OleStrings.cpp. It counts them and
+/// Allocates the BSTRs of the program in place of strings/OleStrings.cpp. It counts them and
 /// fails on demand.
 namespace CountingOleStrings {
 

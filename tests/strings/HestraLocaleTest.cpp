@@ -3,7 +3,7 @@
 #include <ostream>
 
 #include "ScopedLocale.h"
-#include "platform/HestraLocale.h"
+#include "strings/HestraLocale.h"
 
 namespace {
 

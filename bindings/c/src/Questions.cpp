@@ -21,7 +21,7 @@
 #include "SymbolicName.h"
 #include "TooDeep.h"
 #include "antlr/ThrowingErrorListener.h"
-#include "platform/StringUtf8ImplDetail.h"
+#include "strings/StringUtf8ImplDetail.h"
 
 namespace vorn {
 

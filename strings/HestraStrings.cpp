@@ -7,8 +7,8 @@
 #include <new>
 #include <stdexcept>
 
-#include "platform/OleStrings.h"
 #include "platform/WideCharacters.h"
+#include "strings/OleStrings.h"
 #include "vorn/strings/BString.h"
 #include "vorn/strings/String.h"
 #include "vorn/strings/StringArray.h"

@@ -1,4 +1,4 @@
-#include "StringUtf8ImplDetail.h"
+#include "strings/StringUtf8ImplDetail.h"
 
 #include <utf8.h>
 

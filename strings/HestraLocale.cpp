@@ -1,4 +1,4 @@
-#include "platform/HestraLocale.h"
+#include "strings/HestraLocale.h"
 
 #if defined(_WIN32)
 #include <windows.h>

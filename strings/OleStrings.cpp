@@ -1,4 +1,4 @@
-#include "platform/OleStrings.h"
+#include "strings/OleStrings.h"
 
 #include <limits>
 
