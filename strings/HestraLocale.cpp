@@ -29,15 +29,14 @@ struct Identifier {
   std::uint16_t value;
 };
 
-constexpr std::uint16_t chinese = 4;
-
 // The long names are aliases of the C library.
-constexpr std::array languages{Identifier{"ja", 17}, Identifier{"japanese", 17},
-                               Identifier{"ko", 18}, Identifier{"korean", 18},
+constexpr std::array languages{Identifier{"ja", japanese}, Identifier{"japanese", japanese},
+                               Identifier{"ko", korean}, Identifier{"korean", korean},
                                Identifier{"zh", chinese}};
 
-constexpr std::array chineseCountries{Identifier{"TW", 1}, Identifier{"CN", 2}, Identifier{"HK", 3},
-                                      Identifier{"SG", 4}, Identifier{"MO", 5}};
+constexpr std::array chineseCountries{Identifier{"TW", taiwan}, Identifier{"CN", 2},
+                                      Identifier{"HK", hongKong}, Identifier{"SG", 4},
+                                      Identifier{"MO", 5}};
 
 template <typename Identifiers>
 std::uint16_t find(const Identifiers& identifiers, std::string_view name) {

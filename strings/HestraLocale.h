@@ -7,8 +7,17 @@
 /// user's default locale. No thread may change LC_CTYPE meanwhile, as the C library itself demands.
 namespace HestraLocale {
 
-/// The primary language identifier of Windows: Japanese 17, Korean 18, Chinese 4. On other systems
-/// every other language is 0.
+// The primary language identifiers of Windows.
+constexpr std::uint16_t japanese = 17;
+constexpr std::uint16_t korean = 18;
+constexpr std::uint16_t chinese = 4;
+
+// Country identifiers of Chinese locales.
+constexpr std::uint16_t taiwan = 1;
+constexpr std::uint16_t hongKong = 3;
+
+/// The primary language identifier of Windows. On other systems every language that is not named
+/// above is 0.
 std::uint16_t GetLangID() noexcept;
 
 /// The country identifier of a Chinese locale: 1 for Taiwan, 2 for the mainland, 3 for Hong Kong,

@@ -13,13 +13,6 @@ namespace {
 
 using Header = std::uint32_t;
 
-// Results of HestraLocale: languages, and countries of Chinese.
-constexpr std::uint16_t japanese = 17;
-constexpr std::uint16_t korean = 18;
-constexpr std::uint16_t chinese = 4;
-constexpr std::uint16_t taiwan = 1;
-constexpr std::uint16_t hongKong = 3;
-
 Header byteLengthBefore(const vorn::WideChar* characters) {
   Header bytes = 0;
   std::memcpy(&bytes, reinterpret_cast<const char*>(characters) - sizeof bytes, sizeof bytes);
@@ -27,15 +20,16 @@ Header byteLengthBefore(const vorn::WideChar* characters) {
 }
 
 bool writesTwoBytesPerCharacter(std::uint16_t language) {
-  return language == japanese || language == korean || language == chinese;
+  return language == HestraLocale::japanese || language == HestraLocale::korean ||
+         language == HestraLocale::chinese;
 }
 
 bool lengthDoublesInEuc() {
-  if (HestraLocale::GetLangID() != chinese) {
+  if (HestraLocale::GetLangID() != HestraLocale::chinese) {
     return false;
   }
   const std::uint16_t country = HestraLocale::GetCountryID();
-  return country == hongKong || country == taiwan;
+  return country == HestraLocale::hongKong || country == HestraLocale::taiwan;
 }
 
 // Saturates: a sum that does not fit is then refused as too long, not taken for a small one.
