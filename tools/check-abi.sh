@@ -5,10 +5,7 @@
 #   tools/check-abi.sh BUILD_FOLDER --write    write those files
 set -eu
 
-fail() {
-    echo "check-abi: $1" >&2
-    exit 1
-}
+. "$(dirname "$0")/fail.sh"
 
 [ $# -ge 1 ] || fail "name a build folder."
 build=$1

@@ -10,10 +10,7 @@ set -eu
 cd "$(dirname "$0")/.."
 build=build/system-antlr
 
-fail() {
-    echo "check-other-runtimes: $1" >&2
-    exit 1
-}
+. tools/fail.sh
 
 for version in 4.10.1 4.11.1 4.12.0 4.13.2; do
     tools/fetch-antlr-tool.sh $version

@@ -7,10 +7,7 @@ build=$tools/../build
 target=$build/antlr4-package-4.10
 pool=a/antlr4-cpp-runtime
 
-fail() {
-    echo "fetch-antlr-package: $1" >&2
-    exit 1
-}
+. "$(dirname "$0")/fail.sh"
 
 [ ! -d "$target" ] || exit 0
 [ "$(dpkg --print-architecture)" = amd64 ] || fail "it knows the hashes of the packages for amd64 only."

@@ -12,10 +12,7 @@ artifact=org.antlr:antlr4:$version:jar:complete
 build=$(cd "$(dirname "$0")/.." && pwd)/build
 target=$build/antlr-$version-complete.jar
 
-fail() {
-    echo "fetch-antlr-tool: $1" >&2
-    exit 1
-}
+. "$(dirname "$0")/fail.sh"
 
 case "$version" in
     4.10) sha256=fb5cf682be74aafb6cf355b118bb5b2fa4a10abd4bc0a59fb7883f597ecc7201 ;;

@@ -8,10 +8,7 @@
 # and is pinned by its hash. Nothing is fetched if the folder is there.
 set -eu
 
-fail() {
-    echo "fetch-from-pool: $1" >&2
-    exit 1
-}
+. "$(dirname "$0")/fail.sh"
 
 [ $# -eq 3 ] || [ $# -eq 4 ] || fail "give the path in the pool, the hash and the folder, as tools/fetch-antlr-runtime.sh does."
 archive=$(basename "$1")

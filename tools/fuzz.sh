@@ -6,10 +6,7 @@
 # The corpora stay in BUILD_FOLDER/corpus. Inputs that fail go to BUILD_FOLDER/findings.
 set -eu
 
-fail() {
-    echo "fuzz: $1" >&2
-    exit 1
-}
+. "$(dirname "$0")/fail.sh"
 
 [ $# -ge 2 ] || fail "give the build folder and the seconds for each target."
 build=$1

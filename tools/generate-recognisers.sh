@@ -12,10 +12,7 @@ root=$(cd "$(dirname "$0")/.." && pwd)
 jar=$root/build/antlr-4.10-complete.jar
 generated=$root/grammar/generated
 
-fail() {
-    echo "generate-recognisers: $1" >&2
-    exit 1
-}
+. "$(dirname "$0")/fail.sh"
 
 case "${1-} $#" in
     " 0" | "--check 1") ;;

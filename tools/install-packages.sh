@@ -6,10 +6,7 @@
 # If none is missing it does nothing, and needs neither network nor root.
 set -eu
 
-fail() {
-    echo "install-packages: $1" >&2
-    exit 1
-}
+. "$(dirname "$0")/fail.sh"
 
 case "${1-}" in
     build) packages="g++ cmake ninja-build python3 patch xz-utils libutfcpp-dev

@@ -8,10 +8,7 @@ cd "$(dirname "$0")/.."
 build=build/coverage
 report=$build/report
 
-fail() {
-    echo "measure-coverage: $1" >&2
-    exit 1
-}
+. tools/fail.sh
 
 find $build -name '*.gcda' -delete
 ctest --preset coverage

@@ -9,10 +9,7 @@ work=$root/build/package-deb
 packages=$root/build/packages
 version=$(sed -n 's/^#define VORN_VERSION_[A-Z]* //p' "$root/include/vorn/vorn.h" | paste -sd .)
 
-fail() {
-    echo "package-deb: $1" >&2
-    exit 1
-}
+. "$(dirname "$0")/fail.sh"
 
 command -v dpkg-buildpackage >/dev/null ||
     fail "dpkg-buildpackage is missing; tools/install-packages.sh debian installs it."

@@ -7,10 +7,7 @@ set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=$root/build/windows
 
-fail() {
-    echo "package-windows: $1" >&2
-    exit 1
-}
+. "$(dirname "$0")/fail.sh"
 
 [ -f "$build/VornLib.dll" ] || fail "$build/VornLib.dll is missing; make windows builds it."
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$build/CMakeCache.txt")

@@ -8,10 +8,7 @@
 # Code that an #ifdef keeps for Windows is not checked either.
 set -eu
 
-fail() {
-    echo "run-clang-tidy: $1" >&2
-    exit 1
-}
+. "$(dirname "$0")/fail.sh"
 
 command -v clang-tidy >/dev/null || fail "clang-tidy is missing; tools/install-packages.sh lint installs it."
 builds=$1

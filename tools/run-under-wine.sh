@@ -6,10 +6,7 @@
 # Wine keeps its files in build/wine/. Its server runs on for some seconds after the last program.
 set -eu
 
-fail() {
-    echo "run-under-wine: $1" >&2
-    exit 1
-}
+. "$(dirname "$0")/fail.sh"
 
 wine=/usr/lib/wine/wine64
 [ -x "$wine" ] || fail "$wine is missing; tools/install-packages.sh windows installs it."

@@ -27,7 +27,7 @@ class FetchAntlrRuntime(unittest.TestCase):
         self.folder = pathlib.Path(scratch.name)
         self.build = self.folder / "build"
         (self.folder / "tools").mkdir()
-        for script in [SCRIPT, "fetch-from-pool.sh"]:
+        for script in [SCRIPT, "fetch-from-pool.sh", "fail.sh"]:
             shutil.copy(TOOLS / script, self.folder / "tools")
         self.mirror = self.folder / "mirror"
         (self.mirror / ARCHIVE).parent.mkdir(parents=True)
