@@ -169,7 +169,7 @@ announce-abi: setup $(BUILD)/build.ninja ## take the ABI of now for the announce
 package-deb: setup ## build Debian packages in build/packages, use them in a new system
 	@tools/install-packages.sh debian
 	@tools/package-deb.sh
-	@packaging/test_packages.py
+	@tests/packaging/debian_packages_test.py
 
 $(PYTHON_BUILD)/build.ninja: | setup
 	@tools/install-packages.sh python

@@ -1,7 +1,7 @@
 #!/bin/sh
 # Compares the exports of the libraries and the layout of their public types with the announced ABI.
 #
-#   tools/check-abi.sh BUILD_FOLDER            fail if they differ from abi/*ARCHITECTURE.abi
+#   tools/check-abi.sh BUILD_FOLDER            fail if they differ from tests/abi/*ARCHITECTURE.abi
 #   tools/check-abi.sh BUILD_FOLDER --write    write those files
 set -eu
 
@@ -20,8 +20,8 @@ trap 'exit 1' HUP INT TERM
 
 # check LIBRARY HEADERS ANNOUNCED ABIDW_OPTION ABIDIFF_OPTION
 check() {
-    library=$build/abi/$1
-    announced=$root/abi/$3
+    library=$build/tests/abi/$1
+    announced=$root/tests/abi/$3
     [ -f "$library" ] || fail "$library is missing; make check-abi builds it."
     # shellcheck disable=SC2086 # one option or none
     abidw --headers-dir "$root/$2" --drop-private-types $4 --drop-undefined-syms --no-corpus-path \

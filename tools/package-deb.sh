@@ -17,7 +17,7 @@ command -v dpkg-buildpackage >/dev/null ||
 rm -rf "$work" "$packages"
 source=$work/vornlib-$version
 mkdir -p "$source/build" "$packages"
-for part in CMakeLists.txt THIRD-PARTY.md abi bindings cmake examples grammar include inspect platform src \
+for part in CMakeLists.txt THIRD-PARTY.md bindings cmake examples grammar include inspect platform src \
     strings build/antlr4-runtime-4.10; do
     cp -R "$root/$part" "$source/$part"
 done

@@ -9,15 +9,12 @@ import os
 import pathlib
 import shutil
 import subprocess
-import sys
 import tempfile
 import unittest
 
-ROOT = pathlib.Path(__file__).resolve().parent.parent
-sys.path.insert(0, str(ROOT / "tests" / "packaging"))
+from minimal_host import C_ANSWER, C_HOST, C_QUERY, TESTS, block
 
-from minimal_host import C_ANSWER, C_HOST, C_QUERY, TESTS, block  # noqa: E402
-
+ROOT = TESTS.parent.parent
 PACKAGES = sorted(path for path in (ROOT / "build" / "packages").glob("*.deb") if "dbgsym" not in path.name)
 AS_ROOT = [] if os.geteuid() == 0 else ["sudo"]
 TOOLS = "bash-completion,cmake,g++,man-db,ninja-build,pkg-config"

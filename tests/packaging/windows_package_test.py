@@ -1,6 +1,6 @@
 """The zip for Windows, unpacked into an empty folder, is all that a host needs.
 
-    package_test.py SOURCE_FOLDER TOOLCHAIN_FILE EMULATOR CXX_COMPILER
+    windows_package_test.py SOURCE_FOLDER TOOLCHAIN_FILE EMULATOR CXX_COMPILER
 
 The host and the commands are those of the zip's own README.
 """
