@@ -11,7 +11,7 @@
 #include <thread>
 #include <vector>
 
-#include "LoadedLibrary.h"
+#include "ReplaceImport.h"
 
 namespace {
 
@@ -19,20 +19,20 @@ using Columns = std::vector<std::pair<vorn::WideString, vorn::CypherType>>;
 
 void callEverything(const LoadedLibrary& library) {
   Columns columns;
-  ASSERT_EQ(library.getOutputNamesAndTypes(L"MATCH (größe)-[r]->() RETURN größe, r", columns), 0);
+  ASSERT_EQ(library.calls().columns(L"MATCH (größe)-[r]->() RETURN größe, r", columns), 0);
   ASSERT_EQ(columns,
             (Columns{{L"größe", vorn::CypherType::Node}, {L"r", vorn::CypherType::Relationship}}));
-  ASSERT_EQ(library.getOutputNamesAndTypes(L"MATCH (", columns), 1);
-  ASSERT_EQ(library.getVariableUsages(L"n.age > 3 AND m:Adult").size(), 2U);
-  ASSERT_EQ(library.replaceVariableNames(L"n.age > 3", {{L"n", L"m"}}), L"`m`.age > 3");
-  ASSERT_THROW(library.getVariableUsages(L"any(x IN n.list WHERE x)"), std::logic_error);
+  ASSERT_EQ(library.calls().columns(L"MATCH (", columns), 1);
+  ASSERT_EQ(library.calls().usages(L"n.age > 3 AND m:Adult").size(), 2U);
+  ASSERT_EQ(library.calls().renaming(L"n.age > 3", {{L"n", L"m"}}), L"`m`.age > 3");
+  ASSERT_THROW(library.calls().usages(L"any(x IN n.list WHERE x)"), std::logic_error);
   // The first wrong filter builds the static data of the runtime.
-  ASSERT_THROW(library.getVariableUsages(L"n.age > "), std::exception);
+  ASSERT_THROW(library.calls().usages(L"n.age > "), std::exception);
 }
 
 bool runsOutOfMemory(const LoadedLibrary& library) {
   try {
-    library.getVariableUsages(L"n.age > ");
+    library.calls().usages(L"n.age > ");
     return false;
   } catch (const std::bad_alloc&) {
     return true;
@@ -87,7 +87,7 @@ int stopAtUnlock(pthread_mutex_t* mutex) {
 // Before Windows tells a library of the end of the process, it ends all other threads wherever they
 // are.
 [[noreturn]] void endWhileAThreadHoldsALock(const LoadedLibrary& library, UINT status) {
-  library.replaceImport("pthread_mutex_unlock", reinterpret_cast<void*>(&stopAtUnlock));
+  replaceImport(library, "pthread_mutex_unlock", reinterpret_cast<void*>(&stopAtUnlock));
   std::thread([&] {
     callEverything(library);
     // The thread comes here if it has released fewer locks.
@@ -119,7 +119,7 @@ TEST(Loading, DoesNotGrowTheProcessOverAThousandRounds) {
         return;
       }
     }
-    ASSERT_FALSE(LoadedLibrary::isLoaded());
+    ASSERT_FALSE(LoadedLibrary::isPresent());
   }
   EXPECT_LT(privateMemory(), memoryBefore + (rounds - warmUp) * allowedForARound);
   EXPECT_LE(handles(), handlesBefore + rounds / 100);
@@ -127,10 +127,10 @@ TEST(Loading, DoesNotGrowTheProcessOverAThousandRounds) {
 
 TEST(Loading, LeavesTheColumnsAloneWhenTheFirstCallRunsOutOfMemory) {
   const LoadedLibrary library;
-  library.replaceImport("_Znwy", reinterpret_cast<void*>(&failOnce));
+  replaceImport(library, "_Znwy", reinterpret_cast<void*>(&failOnce));
   allocationsLeft = 0;
   Columns columns;
-  EXPECT_EQ(library.getOutputNamesAndTypes(L"MATCH (a_long_name) RETURN a_long_name", columns), 1);
+  EXPECT_EQ(library.calls().columns(L"MATCH (a_long_name) RETURN a_long_name", columns), 1);
   EXPECT_TRUE(columns.empty());
   allocationsLeft = std::numeric_limits<std::size_t>::max();
   callEverything(library);
@@ -141,7 +141,7 @@ TEST(Loading, LeavesNoLockHeldWhenTheFirstCallRunsOutOfMemory) {
   int failures = 0;
   for (std::size_t successes = 0; successes < 100000; successes = 2 * successes + 1) {
     const LoadedLibrary library;
-    library.replaceImport("_Znwy", reinterpret_cast<void*>(&failOnce));
+    replaceImport(library, "_Znwy", reinterpret_cast<void*>(&failOnce));
     allocationsLeft = successes;
     failures += runsOutOfMemory(library) ? 1 : 0;
     allocationsLeft = std::numeric_limits<std::size_t>::max();

@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "LoadedLibrary.h"
+#include "robustness/LoadedLibrary.h"
 
 namespace {
 
-std::string textOf(HMODULE module, const std::string& name) {
+std::string textOf(const LoadedLibrary& library, const std::string& name) {
   std::vector<char> path(MAX_PATH);
-  GetModuleFileNameA(module, path.data(), MAX_PATH);
+  GetModuleFileNameA(static_cast<HMODULE>(library.handle()), path.data(), MAX_PATH);
   std::vector<char> block(GetFileVersionInfoSizeA(path.data(), nullptr));
   GetFileVersionInfoA(path.data(), 0, static_cast<DWORD>(block.size()), block.data());
   void* text = nullptr;
@@ -25,8 +25,8 @@ std::string textOf(HMODULE module, const std::string& name) {
 
 TEST(TheVersionResource, TellsNameAndVersion) {
   const LoadedLibrary library;
-  EXPECT_EQ(textOf(library.module(), "FileVersion"), VORN_VERSION);
-  EXPECT_EQ(textOf(library.module(), "ProductVersion"), VORN_VERSION);
-  EXPECT_EQ(textOf(library.module(), "ProductName"), "VornLib");
-  EXPECT_EQ(textOf(library.module(), "FileDescription"), VORN_DESCRIPTION);
+  EXPECT_EQ(textOf(library, "FileVersion"), VORN_VERSION);
+  EXPECT_EQ(textOf(library, "ProductVersion"), VORN_VERSION);
+  EXPECT_EQ(textOf(library, "ProductName"), "VornLib");
+  EXPECT_EQ(textOf(library, "FileDescription"), VORN_DESCRIPTION);
 }
