@@ -37,6 +37,7 @@ class Library {
  private:
   template <typename Function>
   [[nodiscard]] Function function(const char* name) const {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): dlsym leaves no other way
     return reinterpret_cast<Function>(::dlsym(handle_, name));
   }
 

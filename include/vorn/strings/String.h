@@ -15,7 +15,7 @@
 /// threads may read one object while none changes it.
 
 /// A loaded module with string resources, as Windows declares it.
-struct HINSTANCE__;  // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
+struct HINSTANCE__;  // NOLINT(clang-diagnostic-reserved-identifier)
 using HINSTANCE = HINSTANCE__*;
 
 /// An OLE automation string: wide characters with a terminating zero, behind a 32-bit length in
