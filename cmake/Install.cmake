@@ -63,4 +63,9 @@ if(TARGET vorn-inspect)
 endif()
 
 # The licences of what is inside.
-install(FILES "${PROJECT_SOURCE_DIR}/THIRD-PARTY.md" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/VornLib")
+if(WIN32)
+  install(FILES "${PROJECT_SOURCE_DIR}/THIRD-PARTY.md" DESTINATION licenses)
+else()
+  install(FILES "${PROJECT_SOURCE_DIR}/THIRD-PARTY.md"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/VornLib")
+endif()

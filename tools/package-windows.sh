@@ -24,8 +24,6 @@ x86_64-w64-mingw32-strip "$package"/bin/*.dll
 cp "$root/packaging/windows/README.md" "$package"
 
 licenses=$package/licenses
-mkdir "$licenses"
-cp "$root/THIRD-PARTY.md" "$licenses"
 # The licences of the compiler's DLLs, and GPL 3, from which they make an exception.
 cp /usr/share/common-licenses/GPL-3 "$licenses/GPL-3.txt"
 for debian_package in gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev; do
