@@ -12,11 +12,11 @@ struct AnalysisRelease {
   void operator()(vorn_answer* answer) const { vorn_release(answer); }
 };
 
-/// What the library answers to one question.
+/// The library's answer to one question.
 using Analysis = std::unique_ptr<vorn_answer, AnalysisRelease>;
 
-/// What an accessor of the library, such as vorn_column_name_utf8, finds at these indices. It is
-/// the analysis's.
+/// The string that an accessor of the library, such as vorn_column_name_utf8, finds at these
+/// indices. It belongs to the analysis.
 template <typename Accessor, typename... Indices>
 std::string_view textOf(const Analysis& analysis, Accessor accessor, Indices... indices) {
   std::size_t length = 0;

@@ -9,7 +9,7 @@ namespace inspect {
 namespace {
 
 std::string toLine(const OrderedJson& answer, const std::string& id) {
-  // Should a message quote bytes that are not UTF-8, they must not stop a batch.
+  // A message may quote bytes that are not UTF-8. They must not end a batch.
   std::string json = answer.dump(-1, ' ', false, OrderedJson::error_handler_t::replace);
   if (!id.empty()) {
     json.insert(1, R"("id":)" + id + ',');
@@ -17,7 +17,7 @@ std::string toLine(const OrderedJson& answer, const std::string& id) {
   return escapeControlsInJson(json) + '\n';
 }
 
-// `json` holds what stands before the error.
+// `json` has the members that stand before the error.
 JsonAnswer refusal(const Failure& failure, const std::string& id, OrderedJson json = {}) {
   json["error"] = toJson(failure);
   return {toLine(json, id), false};

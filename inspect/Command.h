@@ -9,20 +9,20 @@
 
 namespace inspect {
 
-/// One of the library's questions, as it is asked on the command line. A request is a JSON object,
-/// whether it came as such or was put together from arguments.
+/// A command, which asks one of the library's questions. A request is a JSON object: a line of a
+/// batch, or put together from arguments.
 struct Command {
   const char* name;
   const char* description;
   const char* textMember;  ///< the member of a request that holds the text
   const char* textNoun;    ///< what that text is called
-  bool takesFilter;        ///< or else a query, whose answer has a member "status"
+  bool takesFilter;        ///< false for a query, whose answer has a member "status"
   bool takesRenames;       ///< whether a request has the member "renames"
   const char* example;     ///< a request and its answer
 
   Analysis (*ask)(const Json& request);  ///< Throws InputError for a request of another form.
 
-  // These take an analysis without an error.
+  // Both take an analysis without an error.
   OrderedJson (*json)(const Analysis& analysis);
   std::string (*report)(const Analysis& analysis);  ///< for people
 };
@@ -36,7 +36,7 @@ extern const Command usagesCommand;
 /// What a property filter reads like after some of its variables are renamed.
 extern const Command renameCommand;
 
-/// What of the text the answer leaves out.
+/// The end of the text that the answer leaves out.
 std::string_view droppedFrom(std::string_view text, const Analysis& analysis,
                              const Command& command);
 
@@ -50,7 +50,7 @@ JsonAnswer answerTo(const Json& request, const Command& command);
 /// The answer to a line of JSON Lines, with the request's id.
 JsonAnswer answerToLine(const std::string& line, const Command& command);
 
-/// The answer to a line that is none.
+/// The answer to a line that is no request.
 JsonAnswer refusal(const Failure& failure);
 
 }  // namespace inspect

@@ -26,8 +26,8 @@ namespace {
 constexpr int analysed = 0;
 constexpr int notAnalysed = 1;
 
-/// A command with the arguments it was given. The results of an option are read as they were typed:
-/// the parser's conversions to types give brackets and braces a meaning of their own.
+// A command with its arguments. The program reads the results of an option as they were typed: the
+// parser's conversions to types would give brackets and braces a meaning of their own.
 struct Invocation {
   const Command* command;
   CLI::App* app;
@@ -69,7 +69,7 @@ Invocation addCommand(CLI::App& program, const Command& command) {
 }
 
 void describe(CLI::App& program) {
-  // Elsewhere than on Linux a text that begins with a slash would be taken for an option.
+  // On Windows the parser would otherwise take a text that begins with a slash for an option.
   program.allow_windows_style_options(false);
   program.require_subcommand(1);
   program.set_version_flag("--version", "vorn-inspect " VORN_INSPECT_VERSION,
@@ -108,7 +108,7 @@ std::string adviceOnCommand(const std::vector<std::string>& unexpected) {
   return word == unexpected.end() ? choice : "'" + *word + "' is no command; " + choice;
 }
 
-// A pair behind the one of --map is meant to be renamed too, and is taken for the text.
+// A second pair behind one --map is taken for the text, though the user meant another renaming.
 std::optional<std::string> pairWithoutMap(const std::vector<std::string>& arguments) {
   for (std::size_t i = 0; i + 2 < arguments.size(); ++i) {
     const std::string& behind = arguments[i + 2];
@@ -290,7 +290,7 @@ int runCommandLine(const std::vector<std::string>& arguments) {
     invocations.push_back(addCommand(program, *command));
   }
   try {
-    // The parser wants them in reverse order, and without the name of the program.
+    // The parser wants the arguments in reverse order and without the name of the program.
     program.parse(std::vector(arguments.rbegin(), std::prev(arguments.rend())));
   } catch (const CLI::Success& success) {
     // Help or the version was asked for.

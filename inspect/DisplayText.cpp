@@ -17,7 +17,7 @@ bool isPartOfWords(char32_t character) {
          character == U'\uFE0F';
 }
 
-// What is shown as nothing, as the Hangul fillers are, would hide in a name.
+// A character that takes no room, such as a Hangul filler, would hide in a name.
 bool needsEscape(char32_t character) {
   switch (utf8proc_category(static_cast<utf8proc_int32_t>(character))) {
     case UTF8PROC_CATEGORY_CC:

@@ -14,12 +14,13 @@ std::string escapeControls(std::string_view text);
 /// The same for a text of several lines, which keeps its line ends and tabs.
 std::string escapeControlsInLines(std::string_view text);
 
-/// The same for JSON, which means what it meant.
+/// The same for JSON, whose meaning stays.
 std::string escapeControlsInJson(std::string_view json);
 
-// What follows takes UTF-8.
+// The functions below take well-formed UTF-8.
 
-/// What a reader takes for one character each: a letter with its combining marks, a joined emoji.
+/// The text in parts that a reader takes for one character each: a letter with its combining marks,
+/// a joined emoji.
 std::vector<std::string_view> graphemeClusters(std::string_view text);
 
 /// The number of terminal cells that text without control characters takes.

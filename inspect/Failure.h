@@ -17,7 +17,7 @@ struct Place {
   std::size_t offset;  ///< bytes before it in the text
 };
 
-/// Why there is no answer.
+/// The reason why there is no answer.
 struct Failure {
   std::string_view kind;
   std::string message;  ///< as the library words it, without the place

@@ -18,8 +18,8 @@ constexpr std::size_t npos = std::string_view::npos;
 
 using Tokens = std::vector<std::string>;
 
-/// Tokens that together are one thing to a reader: if the first of them is expected, the others are
-/// too, and all are replaced by one name.
+// Tokens that are one thing to a reader. If the first of them is expected, so are the others, and
+// one name replaces them all.
 struct Group {
   const char* name;
   std::vector<std::string_view> tokens;
@@ -79,7 +79,7 @@ Tokens grouped(Tokens tokens) {
                                                      token) != group.tokens.end();
                                   }),
                    tokens.end());
-      // Beside a whole group it is the least of what may stand there.
+      // White space says little beside a whole group.
       tokens.erase(std::remove(tokens.begin(), tokens.end(), "SP"), tokens.end());
       tokens.insert(tokens.begin(), group.name);
     }
@@ -113,7 +113,7 @@ std::string shortList(std::string_view list) {
   return tokens.size() > most ? text + ", ..." : text;
 }
 
-// What the runtime expects stands at the end, behind what it quotes of the text.
+// The list of expected tokens is the end of a message, behind the quotation from the text.
 std::string withShortList(const std::string& message) {
   constexpr std::string_view start = " expecting ";
   const std::size_t place = message.rfind(start);
@@ -134,7 +134,7 @@ std::string withShortList(const std::string& message) {
 
 constexpr std::string_view upToThePlace = "no viable alternative at input '";
 
-// Where the text begins that the runtime quotes in a message, or npos.
+// Where the quotation from the text begins in a message, or npos.
 std::size_t quoteStart(const std::string& message) {
   for (const std::string_view start : {upToThePlace, std::string_view("extraneous input '"),
                                        std::string_view("mismatched input '"),
@@ -148,8 +148,8 @@ std::size_t quoteStart(const std::string& message) {
   return place == npos ? npos : place + beforeToken.size();
 }
 
-// The runtime may quote all of a text, or a token however long. What it quotes up to the place of
-// the error keeps its end, all else its beginning.
+// The runtime may quote a whole text or a long token. A quotation that ends at the place of the
+// error keeps its end; any other one keeps its beginning.
 std::string withShortQuote(const std::string& message) {
   constexpr std::size_t most = 60;
   const std::size_t start = quoteStart(message);
@@ -186,7 +186,7 @@ std::string failureReport(const Failure& failure, const std::string& text, const
     return report;
   }
   report += syntaxErrorView(text, failure.place->offset);
-  // What looks like a path may be openCypher with a typo, unless there is such a file.
+  // A text that looks like a path may be openCypher with a typo, unless there is such a file.
   std::optional<std::string> hint = hintForFile(text);
   if (!hint) {
     hint = hintFor(text, failure.place->offset, ask);

@@ -14,8 +14,8 @@ namespace inspect {
 
 namespace {
 
-/// A pattern in a skeleton, whose last match at or before the error counts; what its group is
-/// replaced by; and the sentence, in which {} stands for the word beside the group.
+// A pattern is searched in the skeleton; its last match at or before the error counts. The
+// replacement takes the place of its group. In the hint, {} stands for the word beside the group.
 struct Rule {
   const char* pattern;
   const char* replacement;
@@ -112,7 +112,7 @@ std::string upperCase(std::string_view text) {
   return upper;
 }
 
-/// A part of a text, in bytes.
+// A part of a text, in bytes.
 struct Range {
   std::size_t start;
   std::size_t end;
@@ -133,7 +133,7 @@ Range wordAround(std::string_view skeleton, std::size_t place) {
   return word;
 }
 
-/// Whether a letter is wrong, too much or missing, or two are swapped.
+// Whether one letter is wrong, missing or too many, or two neighbours are swapped.
 bool areOneSlipApart(std::string_view left, std::string_view right) {
   const std::size_t shorter = std::min(left.size(), right.size());
   if (left == right || std::max(left.size(), right.size()) > shorter + 1) {
@@ -151,7 +151,7 @@ bool areOneSlipApart(std::string_view left, std::string_view right) {
           left.substr(2) == right.substr(2));
 }
 
-/// A text that is refused, in search of what would help.
+// A refused text, and the search for a change that helps.
 class Refused {
  public:
   Refused(const std::string& text, std::size_t offset,
@@ -181,7 +181,8 @@ class Refused {
   }
 
   [[nodiscard]] std::optional<Range> lastMatch(const Rule& rule) const {
-    // What is farther away has nothing to do with it; and a search takes stack for each character.
+    // Text farther away has nothing to do with the error, and a search takes stack for each
+    // character.
     constexpr std::size_t reach = 200;
     const std::size_t start = offset_ - std::min(offset_, reach);
     const std::size_t end = std::min(skeleton_.size(), offset_ + reach);
@@ -215,7 +216,7 @@ class Refused {
     return isAnsweredBeyond(samePlace, changed);
   }
 
-  // Of a filter more has to be read, and not only more to be dropped.
+  // A change helps a filter only if more of the filter is read; more text to drop is no help.
   [[nodiscard]] bool isAnsweredBeyond(std::size_t place, const std::string& changed) const {
     const Analysis analysis = ask_(changed);
     switch (vorn_error_kind(analysis.get())) {
@@ -271,7 +272,7 @@ class Refused {
     return std::nullopt;
   }
 
-  // The word is put between back quotes wherever it is written in the same way.
+  // Puts the word between back quotes wherever the text writes it in the same way.
   [[nodiscard]] std::optional<std::string> reservedWord() const {
     const Range here = wordAround(skeleton_, offset_);
     const std::string word(partOf(text_, here));
@@ -301,7 +302,7 @@ class Refused {
   std::string skeleton_;
 };
 
-// Between quotation marks, if a shell would not take it for one argument as it is.
+// The path stands between quotation marks if a shell would not read it as one plain argument.
 std::string adviceToRead(const std::string& path) {
   const bool plain = std::all_of(path.begin(), path.end(), [](char character) {
     return isWordPart(character) ||
@@ -315,7 +316,7 @@ std::string adviceToRead(const std::string& path) {
 
 std::optional<std::string> hintFor(const std::string& text, std::size_t offset,
                                    const std::function<Analysis(const std::string&)>& ask) {
-  // Each thing that is tried takes the time of a question.
+  // Each attempt takes the time of one question.
   constexpr std::size_t longest = 65536;
   return text.size() > longest ? std::nullopt : Refused(text, offset, ask).hint();
 }
@@ -330,9 +331,9 @@ std::optional<std::string> hintForFile(const std::string& text) {
 }
 
 std::optional<std::string> hintForPath(const std::string& text) {
-  // Of a longer text a search would take more stack than there is.
+  // A search in a longer text would take more stack than there is.
   constexpr std::size_t longest = 1024;
-  // Without an extension no path has blanks: it could be any text behind a slash.
+  // A path with blanks needs an extension: otherwise it could be any text behind a slash.
   static const std::regex shape(
       R"((?:[A-Z]:|\.\.?|~)?[\\/][^\s"`(){}<>*?|]+|[^\n"`(){}<>*?|]+\.(?:cypher|cyp|cql|txt))",
       std::regex_constants::icase);

@@ -7,13 +7,13 @@
 
 namespace inspect {
 
-/// The program was called in a way that leaves nothing to analyse. what() says what to do.
+/// A call of the program that leaves nothing to analyse. what() says what to do.
 class UsageError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-// What comes from files and streams, and goes to them. All of these throw UsageError.
+// Reading and writing files and streams. All of these throw UsageError.
 
 std::ifstream openFile(const std::string& path);
 

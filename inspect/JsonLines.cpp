@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t longestRequest = std::size_t{256} << 20U;
 
-/// A counter that is rewritten in place while somebody watches.
+// A counter that is rewritten in place on a terminal.
 class Progress {
  public:
   Progress() = default;
@@ -39,7 +39,7 @@ class Progress {
   }
 
  private:
-  // Answers that appear there too show the progress themselves, and would mix with a counter.
+  // Answers on the same terminal show the progress themselves, and would mix with a counter.
   bool watched = errorsAreWatched() && !outputIsWatched();
   bool shown = false;
   std::size_t lines = 0;
@@ -59,7 +59,7 @@ void append(Line& line, std::string_view part) {
   }
 }
 
-// Of a line that is too long no more than a piece is kept in memory.
+// A line that is too long takes no more memory than one piece.
 std::optional<Line> readLine(std::istream& in) {
   constexpr std::size_t pieceSize = 65536;
   std::array<char, pieceSize> piece{};

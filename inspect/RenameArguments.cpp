@@ -12,7 +12,8 @@ namespace inspect {
 
 namespace {
 
-// A doubled back quote inside a quoted name closes and opens the quotes, which comes to the same.
+// A doubled back quote inside a quoted name closes and reopens the quotes, which changes nothing
+// here.
 std::size_t findOutsideBackQuotes(std::string_view text, char wanted, std::size_t start = 0) {
   bool quoted = false;
   for (std::size_t i = start; i < text.size(); ++i) {

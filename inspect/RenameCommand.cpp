@@ -10,7 +10,7 @@ namespace inspect {
 
 namespace {
 
-// They refer to the request's strings.
+// The pairs refer to strings of the request.
 std::vector<vorn_rename_pair_utf8> renamesOf(const Json& request) {
   const auto member = request.find("renames");
   if (member == request.end() || !member->is_object()) {
@@ -40,7 +40,7 @@ OrderedJson json(const Analysis& analysis) {
   return answer;
 }
 
-// Into a file or another program the text goes as it is.
+// A file or another program gets the text as it is.
 std::string report(const Analysis& analysis) {
   const std::string_view expression = textOf(analysis, vorn_renamed_utf8);
   return (outputIsWatched() ? escapeControlsInLines(expression) : std::string(expression)) + '\n';

@@ -13,12 +13,12 @@ namespace {
 constexpr std::string_view whiteSpace = " \t\n\r";
 constexpr std::string_view endsOfWords = " \t\n\r{}[]:,";
 
-/// Goes through the tokens of JSON that is known to be well formed.
+// Goes through the tokens of well-formed JSON.
 class JsonTokens {
  public:
   explicit JsonTokens(std::string_view json) : rest_(json) {}
 
-  /// There must be one.
+  // There must be a next token.
   std::string_view next() {
     rest_.remove_prefix(rest_.find_first_not_of(whiteSpace));
     const std::string_view token =
@@ -52,7 +52,7 @@ int depthChange(std::string_view token) {
 
 constexpr std::size_t escapeSize = 6;  // of \u and four digits
 
-// Whether the text begins with the escape of a surrogate whose second digit is one of those.
+// Whether the text begins with the escape of a surrogate that has one of these second digits.
 bool beginsWithSurrogate(std::string_view text, std::string_view secondDigits) {
   return text.size() >= escapeSize && text.substr(0, 2) == "\\u" &&
          (text[2] == 'd' || text[2] == 'D') && secondDigits.find(text[3]) != std::string_view::npos;
@@ -86,7 +86,7 @@ std::string mended(const std::string& line) {
 }  // namespace
 
 Json parseRequest(const std::string& line) {
-  // The parser's own messages repeat the text that it could not read, however long that is.
+  // The parser's own messages repeat the unreadable text, however long it is.
   try {
     return Json::parse(line);
   } catch (const Json::parse_error& error) {
@@ -110,7 +110,7 @@ std::string memberAsWritten(std::string_view line, std::string_view name) {
   JsonTokens tokens(line);
   std::string_view token = tokens.next();
   while (token != "{") {
-    token = tokens.next();  // A byte order mark stood before it.
+    token = tokens.next();  // A byte order mark stands before it.
   }
   std::string value;
   while (token != "}") {

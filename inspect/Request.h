@@ -8,10 +8,10 @@
 
 namespace inspect {
 
-/// What is read. Members are found quickly, however many there are.
+/// For reading: members are found quickly, however many there are.
 using Json = nlohmann::json;
 
-/// What is written. Members stay in the order in which they are put in.
+/// For writing: members stay in the order in which they are put in.
 using OrderedJson = nlohmann::ordered_json;
 
 /// A request that is not what the command takes.
@@ -37,12 +37,12 @@ class NotWellFormed : public InputError {
 /// or an escape is half a surrogate pair, but the line is JSON otherwise.
 Json parseRequest(const std::string& line);
 
-/// The value of that member of a line which holds an object that has it, without white space around
-/// it and in it. Numbers stay as they are written, and nesting takes no stack.
+/// The value of a member, without any white space. The line must hold an object that has the
+/// member. Numbers stay as they are written, and nesting takes no stack.
 std::string memberAsWritten(std::string_view line, std::string_view name);
 
-/// The member of that name, which is to be a string. Throws InputError if there is none such, or if
-/// the request is no object.
+/// The string member of that name. Throws InputError if the request is no object or has no such
+/// member.
 const std::string& textMember(const Json& request, std::string_view name);
 
 }  // namespace inspect

@@ -17,7 +17,7 @@ bool isOneOf(char32_t character, std::u32string_view characters) {
   return characters.find(character) != std::u32string_view::npos;
 }
 
-// White space as the grammar has it.
+// The white space of the grammar.
 bool isWhiteSpace(char32_t character) {
   return (character >= U'\t' && character <= U'\r') ||
          (character >= U'\u001C' && character <= U' ') || character == U'\u180E' ||
@@ -46,7 +46,7 @@ bool isHexadecimal(char character) {
   return std::string_view("0123456789abcdefABCDEF").find(character) != npos;
 }
 
-/// Makes the skeleton from left to right.
+// Makes the skeleton from left to right.
 class Drawing {
  public:
   explicit Drawing(std::string_view text) : text_(text) { skeleton_.reserve(text.size()); }
@@ -132,7 +132,7 @@ class Drawing {
     }
   }
 
-  // `text` is what stands behind the back slash.
+  // `text` begins behind the back slash.
   static bool isEscape(std::string_view text) {
     constexpr std::size_t digits = 4;
     if (text.empty()) {

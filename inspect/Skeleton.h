@@ -5,13 +5,13 @@
 
 namespace inspect {
 
-/// Marks that a skeleton has instead of characters of the text.
+/// Marks that stand in a skeleton in place of characters of the text.
 namespace marks {
-constexpr char dash = '\x01';  ///< one of those that are no hyphen
+constexpr char dash = '\x01';  ///< a dash that is no hyphen
 constexpr char leftArrowHead = '\x02';
 constexpr char rightArrowHead = '\x03';
 constexpr char unclosed = '\x04';     ///< a quotation mark or a back quote
-constexpr char badEscape = '\x05';    ///< the back slash of an escape that there is none of
+constexpr char badEscape = '\x05';    ///< the back slash of an escape that does not exist
 constexpr char openComment = '\x06';  ///< the start of a comment that is not closed
 constexpr char lastStar = '\x0E';     ///< a star before a slash that does not close it
 }  // namespace marks

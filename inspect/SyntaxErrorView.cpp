@@ -21,7 +21,7 @@ std::string_view lineAround(std::string_view text, std::size_t place) {
 
 using Clusters = std::vector<std::string_view>;
 
-// How many bytes of the clusters, one after the other, fit into that many columns.
+// The number of bytes in the first clusters that fit into so many columns.
 template <typename Iterator>
 std::size_t sizeWithin(std::size_t columns, Iterator cluster, Iterator end) {
   std::size_t size = 0;
@@ -36,7 +36,7 @@ std::size_t sizeWithin(std::size_t columns, Iterator cluster, Iterator end) {
   return size;
 }
 
-/// What is shown of a line, on both sides of the place.
+// The part of a line that is shown, on both sides of the place.
 struct Window {
   std::string_view before;
   std::string_view behind;
@@ -44,7 +44,7 @@ struct Window {
   bool isCutBehind = false;
 };
 
-// A place inside a grapheme cluster is shown under the whole of it.
+// The caret for a place inside a grapheme cluster stands under the whole cluster.
 Window windowAround(std::string_view line, std::size_t place) {
   constexpr std::size_t widestLine = 76;
   constexpr std::size_t columnsBefore = 40;
@@ -66,7 +66,8 @@ Window windowAround(std::string_view line, std::size_t place) {
           behind < all.behind.size()};
 }
 
-// Tabs stay, so that both lines reach the same tab stops; what stands between them is passed on.
+// Applies `display` to the text between tabs. Tabs stay, so that both lines reach the same tab
+// stops.
 template <typename Display>
 std::string keepingTabs(std::string_view line, const Display& display) {
   std::string shown;

@@ -25,7 +25,7 @@ Widths widthsOf(const std::vector<Table::Row>& rows) {
   return widths;
 }
 
-// The last text is not padded: no line ends in blanks.
+// The last text is not padded, so that no line ends in blanks.
 std::string lineOf(const Table::Row& row, const Widths& widths) {
   std::string line;
   std::size_t missing = 0;

@@ -16,7 +16,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-/// What the library says of one access, all names between back quotes.
+// One access as the library tells it, with all names between back quotes.
 struct Access {
   Names propertyPath;
   Names labels;
@@ -97,7 +97,7 @@ bool isPlainWord(std::string_view name) {
   return !name.empty();
 }
 
-// All names come between back quotes, which most of them can do without.
+// All names come between back quotes, but few of them need these.
 std::string readable(const std::string& quoted) {
   std::string name = quoted.substr(1, quoted.size() - 2);
   return isPlainWord(name) ? name : quoted;

@@ -6,7 +6,7 @@
 
 namespace inspect {
 
-// Whether they are UTF-8 indeed is seen where they are used.
+// The users of the arguments check that they are UTF-8.
 std::vector<std::string> argumentsInUtf8(int argc, const char* const* argv) {
   return {argv, argv + argc};  // NOLINT(cppcoreguidelines-pro-bounds-pointer-arithmetic)
 }

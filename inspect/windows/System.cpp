@@ -46,8 +46,8 @@ std::string toNarrow(const std::wstring& wide) {
   return utf8;
 }
 
-/// Hands what was written to the console when the stream is flushed, as this program does after
-/// each text: no character is cut in two.
+// Hands text to the console when the stream is flushed. The program flushes after each text, so no
+// character is cut in two.
 class ConsoleOutput : public std::stringbuf {
  public:
   explicit ConsoleOutput(DWORD stream) : console(GetStdHandle(stream)) {}
@@ -72,7 +72,7 @@ class ConsoleOutput : public std::stringbuf {
   HANDLE console;
 };
 
-/// Reads a line at a time. One that begins with Ctrl+Z is the end.
+// Reads one line at a time. A line that begins with Ctrl+Z is the end.
 class ConsoleInput : public std::streambuf {
  protected:
   int_type underflow() override {
@@ -110,7 +110,7 @@ class ConsoleInput : public std::streambuf {
   std::string line;
 };
 
-/// Puts a buffer into a standard stream for as long as it lives, if a console is at the other end.
+// Puts a buffer into a standard stream while the object lives, if the stream goes to a console.
 template <typename Buffer>
 class Redirection {
  public:
