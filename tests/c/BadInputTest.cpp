@@ -1,4 +1,4 @@
-// Arguments that no host should pass, and answers that are asked for what they do not hold.
+// Arguments that no host should pass, and accessors that ask an answer for what it does not hold.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// A wrong query is told of whatever its depth and its stack.
+// A wrong query gets an error at every depth and with every size of stack.
 
 #include <gtest/gtest.h>
 

@@ -112,7 +112,7 @@ TEST_P(CErrors, RefuseAFilterThatTakesTooMuchWork) {
   EXPECT_EQ(usages(ambiguous).message, "the openCypher text takes too long to be understood");
 }
 
-// That it is wrong is known: only its place is not looked for.
+// The query is known to be wrong; only the place of the error is not searched.
 TEST_P(CErrors, TellOfAWrongQueryThatCannotBeSearched) {
   for (const auto& [query, reason] :
        {std::pair("RETURN [x IN " + repeated("(a) + ", 3000) + "?",

@@ -95,7 +95,7 @@ class Hints(InspectTest):
     def test_are_not_given_for_what_is_wrong_otherwise(self) -> None:
         for command, _, _, accepted in HINTS:
             if command == "columns" and "CALL" not in accepted:
-                # The wrong end keeps what stands before it from being to blame.
+                # The wrong end makes sure that nothing before it is to blame.
                 with self.subTest(accepted):
                     text = accepted.removesuffix(";") + " RETURN 1 (("
                     for hint in hints(command, text):

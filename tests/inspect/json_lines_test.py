@@ -212,7 +212,7 @@ class Lines(InspectTest):
             for name in ["a", "b", "c"]:
                 process.stdin.write(json.dumps({"query": f"RETURN {name}"}).encode() + b"\n")
                 process.stdin.flush()
-                # Would wait for ever if the answer came with the next one only.
+                # If each answer came only with the next one, this would wait for ever.
                 self.assertEqual(json.loads(process.stdout.readline())["columns"][0]["name"], name)
             process.stdin.close()
             self.assertEqual(process.wait(), 0)

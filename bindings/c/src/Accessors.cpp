@@ -1,5 +1,5 @@
-// What the functions have in common that read an answer: a place that is not there, and a string in
-// the other encoding, are null, zero or unknown.
+// The functions that read an answer. They give null, zero or unknown for an index that does not
+// exist, and for a string in the other encoding.
 
 #include "Answer.h"
 

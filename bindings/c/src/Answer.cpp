@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::string_view message = "memory ran out";
 
-// With a zero behind them.
+// The message with a zero behind it.
 template <typename Unit>
 constexpr auto messageUnits() {
   std::array<Unit, message.size() + 1> units{};
@@ -44,8 +44,8 @@ void dispose(vorn_answer* answer) { delete answer; }
 
 #else
 
-// The memory of the last released answers is kept, so that it is not yet another answer's when one
-// of them is released again.
+// The last released answers keep their memory. So a second release of one of them does not meet
+// another answer in its place.
 // NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): in debug builds only
 std::mutex disposing;
 std::array<vorn_answer*, 1024> disposed{};
@@ -79,7 +79,7 @@ template vorn_answer& outOfMemory<std::uint16_t>();
 
 }  // namespace vorn
 
-// Those that say that memory ran out belong to nobody.
+// An answer that says that memory ran out is static, and not released.
 void vorn_release(vorn_answer* answer) {
   if (answer != nullptr && answer->error.kind != VORN_OUT_OF_MEMORY) {
     vorn::dispose(answer);

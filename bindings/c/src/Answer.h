@@ -52,8 +52,7 @@ struct Error {
   Text element;
 };
 
-/// What is said where there is no memory for an answer. There is one for each encoding; neither is
-/// ever released.
+/// The static answer for a call that finds no memory, one for each encoding.
 template <typename Unit>
 vorn_answer& outOfMemory();
 
@@ -61,7 +60,7 @@ vorn_answer& outOfMemory();
 
 // Declared by the public header, so it is in no namespace.
 struct vorn_answer {
-  // Of the strings. The host may have its own idea of what memory is the default one.
+  // Holds the strings. It names its source, because the host may set another default resource.
   std::pmr::monotonic_buffer_resource memory{std::pmr::new_delete_resource()};
   vorn::Error error;
   std::vector<vorn::Column> columns;

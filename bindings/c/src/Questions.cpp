@@ -1,5 +1,5 @@
-// The questions. Each is answered in UTF-8, by the interrogators; places and strings are then
-// brought into the encoding of the question.
+// The questions. The interrogators answer each in UTF-8. Then places and strings are converted into
+// the encoding of the question.
 
 #include <Exceptions.h>
 #include <utf8.h>
@@ -30,7 +30,7 @@ namespace {
 class BadArgument : public std::exception {};
 class NotWellFormed : public std::exception {};
 
-// Of a text, and of a list. More units than this are more than 1 GiB in UTF-8.
+// The bound on units in a text and on items in a list. More units are more than 1 GiB in UTF-8.
 constexpr std::size_t maxLength = std::size_t{1} << 30U;
 
 template <typename Item>
@@ -43,7 +43,7 @@ void requireReadable(const Item* first, std::size_t length) {
   }
 }
 
-// What the host gave, as UTF-8.
+// A text of the host as UTF-8.
 class Utf8 {
  public:
   Utf8(const char* first, std::size_t length) {
@@ -75,7 +75,7 @@ class Utf8 {
   [[nodiscard]] std::string_view view() const { return view_; }
 
  private:
-  std::string own_;  // what was converted, if anything was
+  std::string own_;  // the converted text; empty if the host gave UTF-8
   std::string_view view_;
 };
 
@@ -83,7 +83,7 @@ bool beginsCodePoint(char byte) { return (static_cast<unsigned char>(byte) & 0xC
 
 bool takesTwoUtf16Units(char firstByte) { return static_cast<unsigned char>(firstByte) >= 0xF0U; }
 
-/// The length of a UTF-8 text in the units of an encoding.
+// The length of a UTF-8 text in the units of an encoding.
 template <typename Unit>
 std::size_t unitCount(std::string_view text);
 
@@ -98,7 +98,7 @@ std::size_t unitCount<std::uint16_t>(std::string_view text) {
                                   std::count_if(text.begin(), text.end(), takesTwoUtf16Units));
 }
 
-// Remembers where the runtime finds the error that ends a parse, and its words.
+// Remembers the place and the message of the error that ends a parse.
 class FirstError final : public ThrowingErrorListener {
  public:
   [[noreturn]] void syntaxError(antlr4::Recognizer* recognizer, antlr4::Token* offendingSymbol,
@@ -116,7 +116,7 @@ class FirstError final : public ThrowingErrorListener {
   [[nodiscard]] std::size_t column() const { return column_; }
   [[nodiscard]] const std::string& message() const { return message_; }
 
-  /// The place in the text, in bytes.
+  // The place in the text, in bytes.
   [[nodiscard]] std::size_t placeIn(std::string_view text) const {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     std::size_t place = text.substr(0, byteOrderMark.size()) == byteOrderMark ? 3 : 0;
@@ -166,7 +166,7 @@ class Writer {
     }
   }
 
-  /// All of them, in their order.
+  // Keeps all of them in their order.
   template <typename Names>
   std::vector<Text> keepAll(const Names& names) {
     std::vector<Text> kept;
@@ -201,8 +201,8 @@ class Writer {
   std::unique_ptr<vorn_answer> answer_ = std::make_unique<vorn_answer>();
 };
 
-// Asks the question and makes an answer of each failure. `ask` takes the text as UTF-8, the
-// listener for its first error, and the answer to write.
+// Asks the question, and turns each failure into an answer. `ask` takes the text as UTF-8, the
+// listener for the first error, and the writer of the answer.
 template <typename Unit, typename Ask>
 vorn_answer* answerTo(const Unit* first, std::size_t length, const Ask& ask) noexcept {
   try {

@@ -1,5 +1,5 @@
-// The questions of the C interface as functions of Python. What they give is made of lists and
-// tuples; the package's __init__.py names the parts.
+// The questions of the C interface as Python functions. Their answers are lists and tuples, whose
+// parts the package's __init__.py names.
 
 #include <nanobind/nanobind.h>
 #include <nanobind/stl/pair.h>
@@ -23,8 +23,7 @@ struct Release {
 };
 using Answer = std::unique_ptr<vorn_answer, Release>;
 
-// A text as the library takes it. An unpaired surrogate becomes three bytes, which the library
-// refuses.
+// A text as UTF-8. An unpaired surrogate becomes three bytes, which the library refuses.
 class Utf8 {
  public:
   explicit Utf8(const nb::str& text)
@@ -38,7 +37,7 @@ class Utf8 {
   [[nodiscard]] const char* first() const { return bytes_.c_str(); }
   [[nodiscard]] std::size_t length() const { return bytes_.size(); }
 
-  /// How many code points stand before a place that is given in bytes.
+  // The number of code points before a place that is given in bytes.
   [[nodiscard]] std::size_t codePointsBefore(std::size_t place) const {
     const std::string_view before(first(), place);
     return static_cast<std::size_t>(std::count_if(before.begin(), before.end(), [](char byte) {
@@ -50,7 +49,7 @@ class Utf8 {
   nb::bytes bytes_;
 };
 
-// What an accessor of the C interface says, as a string.
+// The string that an accessor of the C interface gives.
 template <typename Accessor, typename... Indices>
 nb::str read(const Accessor& accessor, const Answer& answer, Indices... indices) {
   std::size_t length = 0;
@@ -58,7 +57,7 @@ nb::str read(const Accessor& accessor, const Answer& answer, Indices... indices)
   return nb::str(first, length);
 }
 
-// The same of all items that another function counts.
+// The strings of all items that another function counts.
 template <typename Count, typename Accessor, typename... Indices>
 nb::list readAll(const Count& count, const Accessor& accessor, const Answer& answer,
                  Indices... indices) {
@@ -79,7 +78,7 @@ nb::list readAll(const Count& count, const Accessor& accessor, const Answer& ans
   throw nb::python_error();
 }
 
-// Asks while other threads may run Python code.
+// Asks with the interpreter's lock released.
 template <typename Question>
 Answer ask(const Utf8& text, const Question& question) {
   Answer answer;
