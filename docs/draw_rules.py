@@ -1,11 +1,11 @@
 #!/usr/bin/python3
-"""Draws the rules of grammar/Cypher.g4 as railroad diagrams, one SVG file for each.
+"""Draws the rules of grammar/Cypher.g4 as railroad diagrams, in one SVG file for each group of rules.
 
-The diagrams stand in docs/language/, and docs/language.md shows them between two
+The pictures stand in docs/language/, and docs/language.md shows them between two
 marker lines, in the order of the grammar. Debian's package
-python3-railroad-diagrams lays them out.
+python3-railroad-diagrams lays the diagrams out.
 
-    docs/draw_rules.py           write the diagrams and the list of them anew
+    docs/draw_rules.py           write the pictures and the list of them anew
     docs/draw_rules.py --check   fail if one of them is not what the grammar gives
 """
 
@@ -30,12 +30,40 @@ NOT_DRAWN = {"ID_Start", "ID_Continue", "Pc", "Sc"}
 MEMBERS_IN_A_COLUMN = 9
 NAMED = {"\n": "\\n", "\r": "\\r", "\t": "\\t"}
 
+# The title of each group, and the rule that it begins with. A group goes on to the next one.
+PARSER_GROUPS = {
+    "Queries": "oC_Cypher",
+    "Clauses that read": "oC_ReadingClause",
+    "Clauses that write": "oC_Merge",
+    "Procedure calls": "oC_InQueryCall",
+    "Projections": "oC_With",
+    "Patterns": "oC_Pattern",
+    "Relationships and labels": "oC_RelationshipPattern",
+    "Logic and comparisons": "oC_PropertyExpression",
+    "Arithmetic and lists": "oC_AddOrSubtractExpression",
+    "Atoms": "oC_Atom",
+    "Functions and procedures": "oC_FunctionInvocation",
+    "Literals": "oC_Variable",
+    "Names": "oC_PropertyKeyName",
+}
+TOKEN_GROUPS = {
+    "Numbers": "HexInteger",
+    "Strings": "StringLiteral",
+    "Names in the text": "UnescapedSymbolicName",
+    "White space and comments": "SP",
+}
+
+# In pixels, above the name of a rule and between it and the diagram.
+ABOVE_NAME = 30
+BELOW_NAME = 6
+
 STYLE = (
     "path,rect{fill:none;stroke:#57606a;stroke-width:2}"
     "rect{fill:#fff}"
     ".terminal{fill:#ddf4ff}"
     "text{font:14px monospace;text-anchor:middle;fill:#1f2328}"
     ".comment{font-size:12px;fill:#57606a}"
+    ".rule{font-weight:bold;text-anchor:start}"
     "@media(prefers-color-scheme:dark){"
     "path,rect{stroke:#9198a1}"
     "rect{fill:#0d1117}"
@@ -163,12 +191,36 @@ def separators_of(loop: Node, item: Node) -> Union[list[tuple[Node, ...]], None]
     return None
 
 
-def svg(item: railroad.DiagramItem) -> str:
+class Drawn(NamedTuple):
+    """The diagram of one rule."""
+
+    width: float
+    height: float
+    content: str
+
+
+def draw(item: railroad.DiagramItem) -> Drawn:
     pieces: list[str] = []
-    diagram = railroad.Diagram(item, css=STYLE)
+    diagram = railroad.Diagram(item, css="")
     diagram.format(paddingTop=10)
     diagram.writeSvg(pieces.append)
-    return smaller("".join(pieces))
+    text = smaller("".join(pieces))
+    width, height = (float(number) for number in re.search(r'viewBox="0 0 ([\d.]+) ([\d.]+)"', text).groups())
+    return Drawn(width, height, re.sub(r"<style>.*?</style>|^<svg[^>]*>|</svg>$", "", text, flags=re.DOTALL))
+
+
+def picture(drawn: dict[str, Drawn]) -> str:
+    """The diagrams of a group one below the other, each under the name of its rule."""
+    parts = []
+    bottom = 0.0
+    for name, diagram in drawn.items():
+        top = bottom + ABOVE_NAME + BELOW_NAME
+        parts.append(f'<text class="rule" x="10" y="{bottom + ABOVE_NAME:g}">{name.removeprefix("oC_")}</text>')
+        parts.append(f'<g transform="translate(0 {top:g})">{diagram.content}</g>')
+        bottom = top + diagram.height
+    width = max(diagram.width for diagram in drawn.values())
+    size = f'height="{bottom:g}" viewBox="0 0 {width:g} {bottom:g}" width="{width:g}"'
+    return f'<svg {size} xmlns="http://www.w3.org/2000/svg"><style>{STYLE}</style>{"".join(parts)}</svg>\n'
 
 
 def smaller(text: str) -> str:
@@ -181,38 +233,53 @@ def smaller(text: str) -> str:
     text = re.sub(r"</?g[^>]*>|</rect>|/\* (<!\[CDATA\[|\]\]>) \*/", "", text)
     text = re.sub(r"(<rect [^>]*)>", r"\1/>", text)
     text = re.sub(r' xmlns:xlink="[^"]*"| class="railroad-diagram"', "", text)
-    return re.sub("</style>", f'</style><path d="{path}"/>', text, count=1) + "\n"
+    return re.sub(r"(<svg[^>]*>)", rf'\1<path d="{path}"/>', text, count=1)
 
 
-def diagrams() -> dict[str, str]:
+def diagrams() -> dict[str, Drawn]:
     """The diagrams by rule, in the order of the grammar."""
     grammar = Grammar()
     rules = {**grammar.parser_rules, **grammar.lexer_rules}
     keywords = {name: grammar.keyword(name) for name in grammar.lexer_rules if grammar.keyword(name)}
     draughtsman = Draughtsman(keywords)
     return {
-        name: svg(draughtsman.draw(node_of(body)))
+        name: draw(draughtsman.draw(node_of(body)))
         for name, body in rules.items()
         if name not in keywords and name not in NOT_DRAWN
     }
 
 
-def listing(names: list[str]) -> str:
-    """The part of the document that shows the diagrams."""
+def grouped(drawn: dict[str, Drawn], groups: dict[str, str]) -> dict[str, dict[str, Drawn]]:
+    """The diagrams by the title of their group. The first rule of each group must be there."""
+    titles = {first: title for title, first in groups.items()}
+    missing = titles.keys() - drawn.keys()
+    if missing or next(iter(drawn)) not in titles:
+        raise SystemExit(f"draw_rules.py: the groups do not fit the rules: {', '.join(sorted(missing))}.")
+    result: dict[str, dict[str, Drawn]] = {}
+    for name, diagram in drawn.items():
+        if name in titles:
+            title = titles[name]
+        result.setdefault(title, {})[name] = diagram
+    return result
+
+
+def file_name(title: str) -> str:
+    return title.lower().replace(" ", "-") + ".svg"
+
+
+def listing(groups: dict[str, dict[str, Drawn]]) -> str:
+    """The part of the document that shows the pictures."""
     parts = []
-    for name in names:
-        parts.append(f"#### {name.removeprefix('oC_')}\n\n![{name}](language/{name}.svg)\n")
+    for title, drawn in groups.items():
+        names = ", ".join(f"`{name.removeprefix('oC_')}`" for name in drawn)
+        parts.append(f"#### {title}\n\n{names}\n\n![{title}](language/{file_name(title)})\n")
     return "\n".join(parts)
 
 
-def with_listings(document: str, names: list[str]) -> str:
-    parser_rules = [name for name in names if name.startswith("oC_")]
-    tokens = [name for name in names if not name.startswith("oC_")]
-    for title, listed in (("parser rules", parser_rules), ("tokens", tokens)):
+def with_listings(document: str, listings: dict[str, str]) -> str:
+    for title, listed in listings.items():
         marked = re.compile(rf"(<!-- begin {title}: [^\n]*-->\n).*?(<!-- end {title} -->)", re.DOTALL)
-        document, replaced = marked.subn(
-            lambda match, text=listing(listed): f"{match[1]}\n{text}\n{match[2]}", document
-        )
+        document, replaced = marked.subn(lambda match, text=listed: f"{match[1]}\n{text}\n{match[2]}", document)
         if replaced != 1:
             raise SystemExit(f"draw_rules.py: language.md needs one pair of marker lines for {title}.")
     return document
@@ -223,8 +290,19 @@ def main() -> int:
     parser.add_argument("--check", action="store_true", help="write nothing, fail if a diagram is out of date")
     arguments = parser.parse_args()
     drawn = diagrams()
-    wanted = {DIAGRAMS / f"{name}.svg": text for name, text in drawn.items()}
-    wanted[DOCUMENT] = with_listings(DOCUMENT.read_text(encoding="utf-8"), list(drawn))
+    parser_rules = {name: diagram for name, diagram in drawn.items() if name.startswith("oC_")}
+    tokens = {name: diagram for name, diagram in drawn.items() if name not in parser_rules}
+    listings = {
+        "parser rules": grouped(parser_rules, PARSER_GROUPS),
+        "tokens": grouped(tokens, TOKEN_GROUPS),
+    }
+    wanted = {
+        DIAGRAMS / file_name(title): picture(group)
+        for groups in listings.values()
+        for title, group in groups.items()
+    }
+    texts = {title: listing(groups) for title, groups in listings.items()}
+    wanted[DOCUMENT] = with_listings(DOCUMENT.read_text(encoding="utf-8"), texts)
     present = {file: file.read_text(encoding="utf-8") for file in [*DIAGRAMS.glob("*.svg"), DOCUMENT]}
     if arguments.check:
         if present != wanted:
