@@ -9,52 +9,32 @@
 #include <vector>
 
 #include "robustness/FailingNew.h"
+#include "robustness/LoadedLibrary.h"
 #include "vorn/vorn_c.h"
 
 namespace {
 
-/// The shared library, loaded while this lives.
-class Library {
- public:
-  Library() : handle_(::dlopen(VORN_C_LIBRARY, RTLD_NOW | RTLD_LOCAL)) {}
-  Library(const Library&) = delete;
-  Library& operator=(const Library&) = delete;
-  Library(Library&&) = delete;
-  Library& operator=(Library&&) = delete;
-  ~Library() { ::dlclose(handle_); }
+template <typename Function>
+Function function(const LoadedLibrary& library, const char* name) {
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): dlsym leaves no other way
+  return reinterpret_cast<Function>(::dlsym(library.handle(), name));
+}
 
-  [[nodiscard]] std::string messageFor(std::string_view query) const {
-    vorn_answer* const answer =
-        function<decltype(&vorn_columns_utf8)>("vorn_columns_utf8")(query.data(), query.size());
-    std::size_t length = 0;
-    const char* const message =
-        function<decltype(&vorn_error_message_utf8)>("vorn_error_message_utf8")(answer, &length);
-    std::string copy(message == nullptr ? "" : message, length);
-    function<decltype(&vorn_release)>("vorn_release")(answer);
-    return copy;
-  }
-
- private:
-  template <typename Function>
-  [[nodiscard]] Function function(const char* name) const {
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): dlsym leaves no other way
-    return reinterpret_cast<Function>(::dlsym(handle_, name));
-  }
-
-  void* handle_;
-};
-
-bool isPresent() {
-  void* const present = ::dlopen(VORN_C_LIBRARY, RTLD_NOW | RTLD_NOLOAD);
-  if (present != nullptr) {
-    ::dlclose(present);
-  }
-  return present != nullptr;
+std::string messageFor(const LoadedLibrary& library, std::string_view query) {
+  const auto ask = function<decltype(&vorn_columns_utf8)>(library, "vorn_columns_utf8");
+  const auto read =
+      function<decltype(&vorn_error_message_utf8)>(library, "vorn_error_message_utf8");
+  vorn_answer* const answer = ask(query.data(), query.size());
+  std::size_t length = 0;
+  const char* const message = read(answer, &length);
+  std::string copy(message == nullptr ? "" : message, length);
+  function<decltype(&vorn_release)>(library, "vorn_release")(answer);
+  return copy;
 }
 
 std::vector<std::string> messages() {
-  const Library library;
-  return {library.messageFor("MATCH (n) RETURN n"), library.messageFor("MATCH (n) RETRUN n")};
+  const LoadedLibrary library;
+  return {messageFor(library, "MATCH (n) RETURN n"), messageFor(library, "MATCH (n) RETRUN n")};
 }
 
 class CUnloading : public testing::Test {
@@ -68,7 +48,7 @@ class CUnloading : public testing::Test {
 
 TEST_F(CUnloading, TakesTheLibraryOutOfTheProcess) {
   messages();
-  EXPECT_FALSE(isPresent());
+  EXPECT_FALSE(LoadedLibrary::isPresent());
 }
 
 TEST_F(CUnloading, AThousandTimesAnswersAlwaysTheSameInTheSameMemory) {
