@@ -156,7 +156,7 @@ std::string withShortQuote(const std::string& message) {
   if (start == npos) {
     return message;
   }
-  const bool endsAtPlace = start == upToThePlace.size() && message.rfind(upToThePlace, 0) == 0;
+  const bool endsAtPlace = message.rfind(upToThePlace, 0) == 0;
   const std::size_t end = message.rfind('\'', endsAtPlace ? npos : message.rfind("' expecting "));
   const auto clusters = graphemeClusters(std::string_view(message).substr(start, end - start));
   if (clusters.size() <= most) {

@@ -95,7 +95,7 @@ Json parseRequest(const std::string& line) {
     const std::string notUtf8 =
         "The line is not UTF-8: see byte " + std::to_string(valid + 1) + ".";
     const std::string place = "see byte " + std::to_string(error.byte) + ".";
-    if (std::string mendedLine = mended(line); Json::accept(mendedLine)) {
+    if (std::string mendedLine = mended(line); mendedLine != line && Json::accept(mendedLine)) {
       throw NotWellFormed(
           valid < line.size() ? notUtf8 : "The line holds half a surrogate pair: " + place,
           std::move(mendedLine));
