@@ -92,6 +92,16 @@ class Renaming(InspectTest):
         (result,) = answer_lines("rename", {"expression": "n"})
         self.assertEqual(result["error"]["kind"], "input")
 
+    def test_refuses_what_looks_like_several_renamings(self) -> None:
+        for arguments, words in [
+            (["--map", "n=a", "--map", "`n`=b", "n"], "'`n`' has two"),
+            (["--map", "n=m k=l", "n"], "and not 'n=m k=l'"),
+            (["--map", "n=m", "k=l", "n.a = 1"], "and not 'k=l' alone"),
+        ]:
+            result = run("rename", *arguments)
+            self.assertEqual((result.status, result.output), (2, ""))
+            self.assertIn(words, result.error)
+
 
 if __name__ == "__main__":
     main()
